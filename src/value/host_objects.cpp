@@ -192,9 +192,9 @@ vhValue vhValue::call(unsigned int n, ...)
     for (unsigned int i = 1; i < n; ++i)
         pointers.push_back(va_arg(args, const vhValue*));
     va_end(args);
-    if (!nameValue || !nameValue->isString() || nameValue->toString().empty())
+    if (!nameValue || !nameValue->isString() || nameValue->fullGrade().m_text.empty())
         return vhValue();
-    const std::string name = nameValue->toString();
+    const std::string name = nameValue->fullGrade().m_text;
     void* function = nullptr;
     bool found = false;
     for (std::size_t i = 0; i < m_methodNames.size() && !found; ++i) {
@@ -223,9 +223,9 @@ std::uint64_t vhValue::call_ptr(unsigned int n, ...)
     for (unsigned int i = 1; i < n; ++i)
         words.push_back(va_arg(args, std::uint64_t));
     va_end(args);
-    if (!nameValue || !nameValue->isString() || nameValue->toString().empty())
+    if (!nameValue || !nameValue->isString() || nameValue->fullGrade().m_text.empty())
         return 0;
-    const std::string name = nameValue->toString();
+    const std::string name = nameValue->fullGrade().m_text;
     for (std::size_t i = 0; i < m_pointerMethodNames.size(); ++i) {
         if (m_pointerMethodNames[i] == name && m_pointerMethodArgumentCounts[i] == n - 1) {
             if (!m_pointerMethodFunctions[i])
