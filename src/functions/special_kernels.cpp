@@ -5,6 +5,7 @@
 #include <limits>
 
 #include <boost/math/special_functions/bessel.hpp>
+#include <boost/math/special_functions/digamma.hpp>
 
 namespace VarnholtMath {
 namespace kernels {
@@ -158,6 +159,7 @@ double struveSeries(double nu, double x) {
 // Returns false when the series does not reach full precision before its
 // terms start to grow again.
 bool struveAsymptotic(double nu, double x, double& result) {
+    if (nu + 0.5 > 170.0) return false;
     double y;
     try {
         y = boost::math::cyl_neumann(nu, x);
@@ -166,7 +168,6 @@ bool struveAsymptotic(double nu, double x, double& result) {
     }
     if (!std::isfinite(y)) return false;
     double k = 0.0;
-    if (nu + 0.5 > 170.0) return false;
     double r0 = rgamma(nu + 0.5);
     if (r0 != 0.0) {
         const double q = 0.25 * x * x;
@@ -285,28 +286,54 @@ T halley(T w, T z) {
 }
 
 // ======================================================== Gauss 2F1 ========
+//
+// Every way of evaluating the function returns its value with an estimate of
+// the rounding error it carries (from the sizes of the terms that were
+// added). The candidates that converge fast at z are tried in order of their
+// convergence ratio; the first with a clean estimate is taken, otherwise the
+// one with the smallest estimated relative error.
 
 constexpr double kSeriesTol = 1e-18;
+constexpr double kEulerGamma = 0.577215664901532860606512090082402431;
 
-// Partial sums of sum_k (a)_k (b)_k / ((c)_k k!) w^k and of its derivative.
-// Returns false when the series does not settle.
-bool gaussSeries(double a, double b, double c, cd w, cd& sum, cd* derivative) {
+struct Estimate {
+    cd value;
+    double error;  // absolute
+
+    double relative() const {
+        double m = std::abs(value);
+        if (!std::isfinite(m) || !std::isfinite(error)) return kInf;
+        return m == 0.0 ? (error == 0.0 ? 0.0 : kInf) : error / m;
+    }
+};
+
+const Estimate kFailed{kCNaN, kInf};
+
+bool isFinite(cd v) { return std::isfinite(v.real()) && std::isfinite(v.imag()); }
+
+// Partial sums of sum_k (a)_k (b)_k / ((c)_k k!) w^k, of the absolute values
+// of its terms and, on request, of its derivative. False when the series does
+// not settle.
+bool gaussSeries(double a, double b, double c, cd w, cd& sum, double& absSum, cd* derivative) {
     cd term(1.0, 0.0);
     sum = term;
+    absSum = 1.0;
     cd dterm = (a * b / c);  // (k+1) coef_(k+1) w^k at k = 0
     cd dsum = dterm;
-    const double big = std::max({std::fabs(a), std::fabs(b), std::fabs(c)});
+    // past k = big the factors a+k, b+k, c+k keep their signs
+    const double big = std::max({std::fabs(a), std::fabs(b), c < 0.0 ? -c : 0.0});
     const double absW = std::abs(w);
     int quiet = 0;
     for (int k = 0; k < 20000; ++k) {
         double num = (a + k) * (b + k);
         if (num == 0.0) {  // the series ends: a polynomial
             if (derivative) *derivative = (k == 0) ? cd(0.0) : dsum;
-            return true;
+            return isFinite(sum);
         }
         double ratio = num / ((c + k) * (k + 1.0));
         term *= ratio * w;
         sum += term;
+        absSum += std::abs(term);
         if (derivative && k > 0) {
             dterm *= (num / ((c + k) * k)) * w;
             dsum += dterm;
@@ -316,7 +343,7 @@ bool gaussSeries(double a, double b, double c, cd w, cd& sum, cd* derivative) {
         if (small && k > 2.0 * big + 2.0 && std::fabs(ratio) * absW < 1.0) {
             if (++quiet >= 2) {
                 if (derivative) *derivative = dsum;
-                return std::isfinite(sum.real()) && std::isfinite(sum.imag());
+                return isFinite(sum);
             }
         } else {
             quiet = 0;
@@ -325,9 +352,12 @@ bool gaussSeries(double a, double b, double c, cd w, cd& sum, cd* derivative) {
     return false;
 }
 
-cd gaussSeriesValue(double a, double b, double c, cd w) {
-    cd s;
-    return gaussSeries(a, b, c, w, s, nullptr) ? s : kCNaN;
+// The series with its error estimate.
+Estimate gaussSeriesEstimate(double a, double b, double c, cd w) {
+    cd sum;
+    double absSum;
+    if (!gaussSeries(a, b, c, w, sum, absSum, nullptr)) return kFailed;
+    return {sum, 8.0 * kEps * absSum};
 }
 
 // Sign of Gamma(v) away from its poles.
@@ -348,51 +378,237 @@ double gammaRatio(double n1, double n2, double d1, double d2) {
     return gammaSign(n1) * gammaSign(n2) * gammaSign(d1) * gammaSign(d2) * std::exp(l);
 }
 
-// base^e for real e on the principal branch; a negative real base (imaginary
-// part +-0) takes the argument side*pi, so that points on a cut take the
-// value of the side that the caller chooses.
+// Natural logarithm on the principal branch; a negative real argument
+// (imaginary part +-0) takes the imaginary part side*pi.
+cd logSide(cd v, int side) {
+    double theta = (v.imag() == 0.0 && v.real() < 0.0) ? side * kPi : std::arg(v);
+    return {std::log(std::abs(v)), theta};
+}
+
+// base^e for real e on the principal branch, negative real bases as in logSide.
 cd powSide(cd base, double e, int side) {
     double r = std::abs(base);
-    double theta = std::arg(base);
-    if (base.imag() == 0.0 && base.real() < 0.0) theta = side * kPi;
     if (r == 0.0) return e > 0.0 ? cd(0.0) : (e == 0.0 ? cd(1.0) : cd(kInf));
+    double theta = (base.imag() == 0.0 && base.real() < 0.0) ? side * kPi : std::arg(base);
     return std::polar(std::pow(r, e), e * theta);
 }
 
-// Sum of a terminating series (a or b a non-positive whole number) at any z.
-cd gaussPolynomial(double a, double b, double c, cd z) {
+// Distance of v from the nearest whole number.
+double wholeDistance(double v) { return std::fabs(v - std::nearbyint(v)); }
+
+// Sum of a terminating series, a = -n with n a whole number, at any w; fails
+// when a denominator (c)_k vanishes before the end.
+Estimate polynomialSum(double a, double b, double c, cd w) {
     cd term(1.0, 0.0);
     cd sum = term;
-    for (int k = 0; k < 1000000; ++k) {
+    double absSum = 1.0;
+    for (int k = 0; k < 10000000; ++k) {
         double num = (a + k) * (b + k);
         if (num == 0.0) break;
-        term *= (num / ((c + k) * (k + 1.0))) * z;
+        double den = (c + k) * (k + 1.0);
+        if (den == 0.0) return kFailed;
+        term *= (num / den) * w;
         sum += term;
+        absSum += std::abs(term);
     }
-    return sum;
+    if (!isFinite(sum)) return kFailed;
+    return {sum, 8.0 * kEps * absSum};
+}
+
+// (x)_n / (y)_n for a whole n >= 0, as a product of ratios so that it does
+// not overflow on the way; NaN if (y)_n vanishes.
+double pochhammerRatio(double x, double y, double n) {
+    double p = 1.0;
+    for (int i = 0; i < static_cast<int>(n); ++i) {
+        if (y + i == 0.0) return kNaN;
+        p *= (x + i) / (y + i);
+    }
+    return p;
+}
+
+// Two-term transformation
+//   F = g1 p1 F(a1, b1; c1; w) + g2 p2 F(a2, b2; c2; w).
+// Its estimate includes the loss in the gamma factors when a parameter
+// difference lies at distance `gap` from one of their poles and was rounded
+// by `rounding` when it was formed: the two terms then no longer cancel
+// exactly.
+Estimate twoTerm(double g1, cd p1, double a1, double b1, double c1, double g2, cd p2, double a2, double b2, double c2,
+                 cd w, double gap, double rounding) {
+    Estimate s1 = g1 == 0.0 ? Estimate{cd(0.0), 0.0} : gaussSeriesEstimate(a1, b1, c1, w);
+    Estimate s2 = g2 == 0.0 ? Estimate{cd(0.0), 0.0} : gaussSeriesEstimate(a2, b2, c2, w);
+    if (!isFinite(s1.value) || !isFinite(s2.value)) return kFailed;
+    cd t1 = g1 * p1 * s1.value;
+    cd t2 = g2 * p2 * s2.value;
+    double err = std::fabs(g1) * std::abs(p1) * s1.error + std::fabs(g2) * std::abs(p2) * s2.error;
+    err += (std::abs(t1) + std::abs(t2)) * (8.0 * kEps + rounding / std::max(gap, kEps));
+    cd value = t1 + t2;
+    if (!isFinite(value)) return kFailed;
+    return {value, err};
+}
+
+// Limit form of the z -> 1-z transformation when c - a - b is a whole number
+// m: the two gamma-weighted terms then share a pole and merge into a series
+// with logarithm and digamma terms. For m >= 0 (regularised function, divided
+// by Gamma(c)):
+//   F/Gamma(c) = 1/(Gamma(a+m) Gamma(b+m)) sum_(k<m) (a)_k (b)_k (m-k-1)!/k! (z-1)^k
+//     - (z-1)^m/(Gamma(a) Gamma(b)) sum_k (a+m)_k (b+m)_k / (k! (k+m)!) (1-z)^k
+//         * (ln(1-z) - psi(k+1) - psi(k+m+1) + psi(a+k+m) + psi(b+k+m)).
+// m < 0 is brought to m > 0 by Euler's transformation. Requires |1-z| < 1.
+Estimate hyp2f1WholeNearOne(double a, double b, double c, cd z, int side) {
+    const cd w = 1.0 - z;
+    int m = static_cast<int>(std::nearbyint(c - a - b));
+    cd factor(1.0, 0.0);
+    if (m < 0) {
+        // F(a,b;c;z) = (1-z)^(c-a-b) F(c-a, c-b; c; z)
+        double ap = c - a, bp = c - b;
+        a = ap;
+        b = bp;
+        m = -m;
+        for (int i = 0; i < m; ++i) factor /= w;
+    }
+    // finite sum
+    cd s1(0.0);
+    double abs1 = 0.0;
+    if (m > 0) {
+        cd t = std::tgamma(static_cast<double>(m));  // (m-1)!
+        for (int k = 0; k < m; ++k) {
+            s1 += t;
+            abs1 += std::abs(t);
+            if (k + 1 < m) t *= (a + k) * (b + k) / ((k + 1.0) * (m - k - 1.0)) * (-w);
+        }
+        double g = rgamma(a + m) * rgamma(b + m);
+        s1 *= g;
+        abs1 *= std::fabs(g);
+    }
+    // logarithmic series
+    const cd logW = logSide(w, -side);
+    double psiK1 = -kEulerGamma;  // psi(k+1)
+    double psiKm1 = -kEulerGamma;  // psi(k+m+1)
+    for (int i = 1; i <= m; ++i) psiKm1 += 1.0 / i;
+    double psiA = boost::math::digamma(a + m);
+    double psiB = boost::math::digamma(b + m);
+    cd u = 1.0 / std::tgamma(m + 1.0);
+    cd s2(0.0);
+    double abs2 = 0.0;
+    const double big = std::max({std::fabs(a), std::fabs(b), static_cast<double>(m)});
+    int quiet = 0;
+    for (int k = 0;; ++k) {
+        if (k == 20000) return kFailed;
+        cd term = u * (logW - psiK1 - psiKm1 + psiA + psiB);
+        s2 += term;
+        abs2 += std::abs(term);
+        double ratio = (a + m + k) * (b + m + k) / ((k + 1.0) * (k + m + 1.0));
+        if (std::abs(term) <= kSeriesTol * std::abs(s2) && k > 2.0 * big + 2.0 && std::fabs(ratio) * std::abs(w) < 1.0) {
+            if (++quiet >= 2) break;
+        } else {
+            quiet = 0;
+        }
+        u *= ratio * w;
+        psiK1 += 1.0 / (k + 1.0);
+        psiKm1 += 1.0 / (k + m + 1.0);
+        psiA += 1.0 / (a + m + k);
+        psiB += 1.0 / (b + m + k);
+    }
+    cd zm1pow(1.0, 0.0);
+    for (int i = 0; i < m; ++i) zm1pow *= -w;
+    cd g2 = -zm1pow * (rgamma(a) * rgamma(b));
+    cd outer = factor * std::tgamma(a + b + m);
+    cd value = outer * (s1 + g2 * s2);
+    double err = 8.0 * kEps * std::abs(outer) * (abs1 + std::abs(g2) * abs2);
+    if (!isFinite(value)) return kFailed;
+    return {value, err};
+}
+
+// psi(x)/Gamma(x), with its finite limit (-1)^(n+1) n! at x = -n.
+double psiOverGamma(double x) {
+    if (isNonPositiveWhole(x)) {
+        double n = -x;
+        double f = std::tgamma(n + 1.0);
+        return std::fmod(n, 2.0) == 0.0 ? -f : f;
+    }
+    return boost::math::digamma(x) / std::tgamma(x);
+}
+
+// Limit form of the z -> 1/z transformation when b - a is a whole number m
+// (a and b swapped when needed):
+//   F/Gamma(c) = (-z)^(-a)/Gamma(a+m) sum_(k<m) (a)_k (m-k-1)!/(k! Gamma(c-a-k)) z^-k
+//     + (-z)^(-a)/Gamma(a) sum_k (a+m)_k/(k! (k+m)!) (-1)^k z^(-k-m)
+//         * (ln(-z) + psi(k+1) + psi(k+m+1) - psi(a+k+m) - psi(c-a-k-m)) / Gamma(c-a-k-m),
+// where psi/Gamma is read as its limit at the poles. Requires |z| > 1.
+Estimate hyp2f1WholeAtInfinity(double a, double b, double c, cd z, int side) {
+    if (a > b) std::swap(a, b);
+    const int m = static_cast<int>(std::nearbyint(b - a));
+    const cd v = 1.0 / z;
+    cd s1(0.0);
+    double abs1 = 0.0;
+    if (m > 0) {
+        cd t = std::tgamma(static_cast<double>(m)) * rgamma(c - a);
+        for (int k = 0; k < m; ++k) {
+            s1 += t;
+            abs1 += std::abs(t);
+            if (k + 1 < m) t *= (a + k) * (c - a - k - 1.0) / ((m - k - 1.0) * (k + 1.0)) * v;
+        }
+        double g = rgamma(a + m);
+        s1 *= g;
+        abs1 *= std::fabs(g);
+    }
+    const cd mz = -z;
+    const cd logMz = logSide(mz, -side);
+    double psiK1 = -kEulerGamma;
+    double psiKm1 = -kEulerGamma;
+    for (int i = 1; i <= m; ++i) psiKm1 += 1.0 / i;
+    double psiB = boost::math::digamma(a + m);  // psi(a+k+m)
+    double x = c - a - m;  // argument of the gamma and digamma terms, falls by one per k
+    double rg = rgamma(x);
+    double pg = psiOverGamma(x);
+    cd u(1.0 / std::tgamma(m + 1.0), 0.0);
+    for (int i = 0; i < m; ++i) u *= v;
+    cd s2(0.0);
+    double abs2 = 0.0;
+    const double big = std::max({std::fabs(a), std::fabs(b), std::fabs(c), static_cast<double>(m)});
+    int quiet = 0;
+    for (int k = 0;; ++k) {
+        if (k == 20000) return kFailed;
+        cd term = u * ((logMz + psiK1 + psiKm1 - psiB) * rg - pg);
+        s2 += term;
+        abs2 += std::abs(term);
+        if (std::abs(term) <= kSeriesTol * std::abs(s2) && k > 2.0 * big + 2.0) {
+            if (++quiet >= 2) break;
+        } else {
+            quiet = 0;
+        }
+        u *= (a + m + k) / ((k + 1.0) * (k + m + 1.0)) * (-v);
+        psiK1 += 1.0 / (k + 1.0);
+        psiKm1 += 1.0 / (k + m + 1.0);
+        psiB += 1.0 / (a + m + k);
+        double pgNext = (x - 1.0) * pg - rg;
+        rg *= (x - 1.0);
+        pg = pgNext;
+        x -= 1.0;
+    }
+    double g2 = rgamma(a);
+    cd outer = std::tgamma(c) * powSide(mz, -a, -side);
+    cd value = outer * (s1 + g2 * s2);
+    double err = 8.0 * kEps * std::abs(outer) * (abs1 + std::fabs(g2) * abs2);
+    if (!isFinite(value)) return kFailed;
+    return {value, err};
 }
 
 // Continues the solution of the hypergeometric equation
 //   z(1-z) w'' + (c - (a+b+1) z) w' - a b w = 0
-// from (z0, w, w') along the straight line to `target` by Taylor series about
-// successive points, each step half the distance to the nearest singular
-// point 0 or 1.
-bool odeContinue(double a, double b, double c, cd z0, cd w, cd dw, cd target, cd& result,
-                 cd* derivative = nullptr) {
-    cd zc = z0;
+// from (zc, w, dw) along the straight line to `target` by Taylor series about
+// successive points, each step `fraction` of the distance to the nearest
+// singular point 0 or 1. `error` collects the absolute size of the rounding.
+bool odeContinue(double a, double b, double c, cd& zc, cd& w, cd& dw, cd target, double& error, double fraction) {
     const double q1 = -(a + b + 1.0);
     const double r0 = -a * b;
     for (int step = 0; step < 20000; ++step) {
         cd delta = target - zc;
         double dist = std::abs(delta);
-        if (dist == 0.0) {
-            result = w;
-            if (derivative) *derivative = dw;
-            return true;
-        }
+        if (dist == 0.0) return true;
         double radius = std::min(std::abs(zc), std::abs(1.0 - zc));
-        cd h = (dist <= 0.5 * radius) ? delta : delta * (0.5 * radius / dist);
-        bool last = dist <= 0.5 * radius;
+        bool last = dist <= fraction * radius;
+        cd h = last ? delta : delta * (fraction * radius / dist);
         // coefficients of the equation about zc
         cd p0 = zc * (1.0 - zc);
         cd p1 = 1.0 - 2.0 * zc;
@@ -401,14 +617,17 @@ bool odeContinue(double a, double b, double c, cd z0, cd w, cd dw, cd target, cd
         cd u0 = w, u1 = dw * h;
         cd sum = u0 + u1;
         cd dsum = u1;  // sum of n u_n
+        double absSum = std::abs(u0) + std::abs(u1);
         cd h2 = h * h;
         int quiet = 0;
-        for (int n = 0; n < 5000; ++n) {
+        for (int n = 0;; ++n) {
+            if (n == 5000) return false;
             double nn = n;
             cd u2 = -((p1 * nn + qq0) * (nn + 1.0) * u1 * h + (-nn * (nn - 1.0) + q1 * nn + r0) * u0 * h2) /
                     (p0 * ((nn + 2.0) * (nn + 1.0)));
             sum += u2;
             dsum += (nn + 2.0) * u2;
+            absSum += std::abs(u2);
             u0 = u1;
             u1 = u2;
             if (std::abs(u2) * (nn + 2.0) <= 1e-18 * (std::abs(sum) + std::abs(dsum))) {
@@ -416,122 +635,188 @@ bool odeContinue(double a, double b, double c, cd z0, cd w, cd dw, cd target, cd
             } else {
                 quiet = 0;
             }
-            if (n == 4999) return false;
         }
         w = sum;
         dw = dsum / h;
         zc = last ? target : zc + h;
-        if (!std::isfinite(w.real()) || !std::isfinite(w.imag())) return false;
+        error += 8.0 * kEps * absSum;
+        if (!isFinite(w) || !isFinite(dw)) return false;
     }
     return false;
 }
 
-// Distance of v from the nearest whole number.
-double wholeDistance(double v) { return std::fabs(v - std::nearbyint(v)); }
-
-// Parameter differences closer than this to a whole number make the
-// two-term transformations lose accuracy to cancellation (their gamma
-// factors have poles there); such points go through the differential
-// equation instead.
-constexpr double kDegenerate = 0.05;
-
-cd hyp2f1General(double a, double b, double c, cd z, int side) {
-    const cd one(1.0, 0.0);
-    const double absZ = std::abs(z);
-    const double absOneMinusZ = std::abs(one - z);
-    const bool degCab = wholeDistance(c - a - b) < kDegenerate;
-    const bool degAb = wholeDistance(a - b) < kDegenerate;
-
-    enum Method { Direct, Pfaff, OneMinusZ, OneMinusInvZ, InvZ, InvOneMinusZ, Ode };
-    Method best = Direct;
-    double bestRho = absZ;
-    auto consider = [&](Method m, double rho) {
-        if (rho < bestRho) {
-            bestRho = rho;
-            best = m;
-        }
+// Follows the differential equation from inside the disc of convergence. A
+// real z below 1 is reached along the real axis. Otherwise the path runs
+// radially out to |z| and then along the circle |z| to z; when z lies near
+// the positive real axis the ray leaves at +-pi/3 on z's side, so the path
+// keeps clear of the singular point 1, where the function may be large.
+Estimate hyp2f1OdePath(double a, double b, double c, cd z, int side, double fraction) {
+    cd zc, w, dw;
+    double absSum = 0.0;
+    double error = 0.0;
+    auto start = [&](cd z0) {
+        zc = z0;
+        if (!gaussSeries(a, b, c, z0, w, absSum, &dw)) return false;
+        error = 8.0 * kEps * absSum;
+        return true;
     };
-    consider(Pfaff, absZ / absOneMinusZ);
-    if (!degCab) {
-        consider(OneMinusZ, absOneMinusZ);
-        consider(OneMinusInvZ, absOneMinusZ / absZ);
-    }
-    if (!degAb) {
-        consider(InvZ, 1.0 / absZ);
-        consider(InvOneMinusZ, 1.0 / absOneMinusZ);
-    }
-    if (bestRho > 0.8) best = Ode;
-
-    switch (best) {
-        case Direct:
-            return gaussSeriesValue(a, b, c, z);
-        case Pfaff:
-            return powSide(one - z, -a, -side) * gaussSeriesValue(a, c - b, c, z / (z - one));
-        case OneMinusZ: {
-            cd w = one - z;
-            cd t1 = gammaRatio(c, c - a - b, c - a, c - b) * gaussSeriesValue(a, b, a + b - c + 1.0, w);
-            cd t2 = gammaRatio(c, a + b - c, a, b) * powSide(w, c - a - b, -side) *
-                    gaussSeriesValue(c - a, c - b, c - a - b + 1.0, w);
-            return t1 + t2;
-        }
-        case OneMinusInvZ: {
-            cd w = one - one / z;
-            cd t1 = gammaRatio(c, c - a - b, c - a, c - b) * powSide(z, -a, side) *
-                    gaussSeriesValue(a, a - c + 1.0, a + b - c + 1.0, w);
-            cd t2 = gammaRatio(c, a + b - c, a, b) * powSide(one - z, c - a - b, -side) * powSide(z, a - c, side) *
-                    gaussSeriesValue(c - a, 1.0 - a, c - a - b + 1.0, w);
-            return t1 + t2;
-        }
-        case InvZ: {
-            cd w = one / z;
-            cd t1 = gammaRatio(c, b - a, b, c - a) * powSide(-z, -a, -side) *
-                    gaussSeriesValue(a, a - c + 1.0, a - b + 1.0, w);
-            cd t2 = gammaRatio(c, a - b, a, c - b) * powSide(-z, -b, -side) *
-                    gaussSeriesValue(b, b - c + 1.0, b - a + 1.0, w);
-            return t1 + t2;
-        }
-        case InvOneMinusZ: {
-            cd w = one / (one - z);
-            cd t1 = gammaRatio(c, b - a, b, c - a) * powSide(one - z, -a, -side) *
-                    gaussSeriesValue(a, c - b, a - b + 1.0, w);
-            cd t2 = gammaRatio(c, a - b, a, c - b) * powSide(one - z, -b, -side) *
-                    gaussSeriesValue(b, c - a, b - a + 1.0, w);
-            return t1 + t2;
-        }
-        case Ode:
-            break;
-    }
-
-    // Start inside the disc of convergence and follow the equation. A real
-    // z below 1 is reached along the real axis. Otherwise the path runs
-    // radially out to |z| and then along the circle |z| to z; when z lies near
-    // the positive real axis the ray leaves at +-pi/3 on z's side, so the path
-    // keeps clear of the singular point 1, where the function may be large.
-    cd w0, dw0, result;
     if (z.imag() == 0.0 && z.real() < 1.0) {
-        cd z0(z.real() < 0.0 ? -0.5 : 0.5, 0.0);
-        if (!gaussSeries(a, b, c, z0, w0, &dw0)) return kCNaN;
-        if (!odeContinue(a, b, c, z0, w0, dw0, z, result)) return kCNaN;
-        return result;
+        if (!start(cd(z.real() < 0.0 ? -0.5 : 0.5, 0.0))) return kFailed;
+        if (!odeContinue(a, b, c, zc, w, dw, z, error, fraction)) return kFailed;
+        return {w, error};
     }
+    const double absZ = std::abs(z);
     const double phi = std::arg(z);
     double psi = phi;
     if (std::fabs(phi) < kPi / 4.0) {
         int s = z.imag() > 0.0 ? 1 : (z.imag() < 0.0 ? -1 : side);
         psi = s * kPi / 3.0;
     }
-    cd zc = std::polar(0.5, psi);
-    if (!gaussSeries(a, b, c, zc, w0, &dw0)) return kCNaN;
-    cd next = std::polar(absZ, psi);
-    if (!odeContinue(a, b, c, zc, w0, dw0, next, result, &dw0)) return kCNaN;
-    zc = next;
+    if (!start(std::polar(0.5, psi))) return kFailed;
+    if (!odeContinue(a, b, c, zc, w, dw, std::polar(absZ, psi), error, fraction)) return kFailed;
     const int arcSteps = static_cast<int>(std::ceil(std::fabs(phi - psi) / 0.25));
     for (int i = 1; i <= arcSteps; ++i) {
-        next = (i == arcSteps) ? z : std::polar(absZ, psi + (phi - psi) * i / arcSteps);
-        if (!odeContinue(a, b, c, zc, result, dw0, next, result, &dw0)) return kCNaN;
-        zc = next;
+        cd next = (i == arcSteps) ? z : std::polar(absZ, psi + (phi - psi) * i / arcSteps);
+        if (!odeContinue(a, b, c, zc, w, dw, next, error, fraction)) return kFailed;
     }
-    return result;
+    return {w, error};
+}
+
+// The path is followed twice with different steps: rounding errors that the
+// equation amplifies on the way show up as a difference between the two.
+Estimate hyp2f1Ode(double a, double b, double c, cd z, int side) {
+    Estimate first = hyp2f1OdePath(a, b, c, z, side, 0.5);
+    if (!std::isfinite(first.relative())) return kFailed;
+    Estimate second = hyp2f1OdePath(a, b, c, z, side, 0.4);
+    if (!std::isfinite(second.relative())) return kFailed;
+    first.error = std::max({first.error, second.error, std::abs(first.value - second.value)});
+    return first;
+}
+
+// F(-n, b; c; z) for a whole n >= 0, summed about 0, about 1
+//   F = (c-b)_n/(c)_n F(-n, b; b-c-n+1; 1-z)
+// or about infinity
+//   F = (b)_n/(c)_n (-z)^n F(-n, 1-c-n; 1-b-n; 1/z),
+// whichever carries the smallest rounding error; when all three cancel badly
+// (near 1 with b - c a whole number the form about 1 does not exist) the
+// differential equation is followed as for the general function.
+Estimate gaussPolynomial(double n, double b, double c, cd z, int side) {
+    const double a = -n;
+    Estimate best = polynomialSum(a, b, c, z);
+    if (best.relative() > 16.0 * kEps) {
+        double f = pochhammerRatio(c - b, c, n);
+        if (std::isfinite(f)) {
+            Estimate e = polynomialSum(a, b, b - c - n + 1.0, 1.0 - z);
+            Estimate near{e.value * f, e.error * std::fabs(f)};
+            if (near.relative() < best.relative()) best = near;
+        }
+        double g = pochhammerRatio(b, c, n);
+        if (std::abs(z) > 1.0 && std::isfinite(g) && !isNonPositiveWhole(1.0 - b - n)) {
+            Estimate far = polynomialSum(a, 1.0 - c - n, 1.0 - b - n, 1.0 / z);
+            cd pw(g, 0.0);
+            for (int i = 0; i < static_cast<int>(n); ++i) pw *= -z;
+            Estimate at{far.value * pw, far.error * std::abs(pw)};
+            if (at.relative() < best.relative()) best = at;
+        }
+    }
+    if (best.relative() > 1e-12 && !isNonPositiveWhole(c)) {
+        Estimate e = hyp2f1Ode(a, b, c, z, side);
+        if (10.0 * e.relative() < best.relative()) best = e;
+    }
+    return best;
+}
+
+// The general case: c, a, b, c-a, c-b away from the non-positive whole
+// numbers, z away from 0 and 1.
+Estimate hyp2f1General(double a, double b, double c, cd z, int side) {
+    const cd one(1.0, 0.0);
+    const double absZ = std::abs(z);
+    const double absOneMinusZ = std::abs(one - z);
+    // A difference within rounding of a whole number is taken as whole: the
+    // inputs cannot tell them apart.
+    const double scale = std::fabs(a) + std::fabs(b) + std::fabs(c) + 1.0;
+    const double gapCab = wholeDistance(c - a - b);
+    const double gapAb = wholeDistance(a - b);
+    // rounding of the differences as they are formed below
+    DD cMinusA = twoSum(c, -a);
+    DD cab = twoSum(cMinusA.hi, -b);
+    const double roundCab = std::fabs(cMinusA.lo + cab.lo) + std::fabs(twoSum(c - a - b, 1.0).lo) +
+                            std::fabs(cab.hi + (a + b - c)) + std::fabs(twoSum(a + b - c, 1.0).lo);
+    const double roundAb = std::fabs(twoSum(a, -b).lo) + std::fabs(twoSum(a - b, 1.0).lo) +
+                           std::fabs(twoSum(b - a, 1.0).lo);
+    const bool wholeCab = gapCab <= 32.0 * kEps * scale && std::fabs(c - a - b) < 1e4;
+    const bool wholeAb = gapAb <= 32.0 * kEps * scale && std::fabs(a - b) < 1e4;
+
+    enum Method { Direct, Pfaff, OneMinusZ, OneMinusInvZ, InvZ, InvOneMinusZ };
+    struct Candidate {
+        Method method;
+        double rho;
+    };
+    Candidate candidates[] = {{Direct, absZ},
+                              {Pfaff, absZ / absOneMinusZ},
+                              {OneMinusZ, absOneMinusZ},
+                              {OneMinusInvZ, absOneMinusZ / absZ},
+                              {InvZ, 1.0 / absZ},
+                              {InvOneMinusZ, 1.0 / absOneMinusZ}};
+    std::sort(std::begin(candidates), std::end(candidates),
+              [](const Candidate& x, const Candidate& y) { return x.rho < y.rho; });
+
+    auto evaluate = [&](Method method) -> Estimate {
+        switch (method) {
+            case Direct:
+                return gaussSeriesEstimate(a, b, c, z);
+            case Pfaff: {
+                Estimate e = gaussSeriesEstimate(a, c - b, c, z / (z - one));
+                cd p = powSide(one - z, -a, -side);
+                return {p * e.value, std::abs(p) * (e.error + 4.0 * kEps * std::abs(e.value))};
+            }
+            case OneMinusZ: {
+                if (wholeCab) return hyp2f1WholeNearOne(a, b, c, z, side);
+                cd w = one - z;
+                return twoTerm(gammaRatio(c, c - a - b, c - a, c - b), one, a, b, a + b - c + 1.0,
+                               gammaRatio(c, a + b - c, a, b), powSide(w, c - a - b, -side), c - a, c - b,
+                               c - a - b + 1.0, w, gapCab, roundCab);
+            }
+            case OneMinusInvZ: {
+                if (wholeCab) return kFailed;
+                cd w = one - one / z;
+                return twoTerm(gammaRatio(c, c - a - b, c - a, c - b), powSide(z, -a, side), a, a - c + 1.0,
+                               a + b - c + 1.0, gammaRatio(c, a + b - c, a, b),
+                               powSide(one - z, c - a - b, -side) * powSide(z, a - c, side), c - a, 1.0 - a,
+                               c - a - b + 1.0, w, gapCab, roundCab);
+            }
+            case InvZ: {
+                if (wholeAb) return hyp2f1WholeAtInfinity(a, b, c, z, side);
+                cd w = one / z;
+                return twoTerm(gammaRatio(c, b - a, b, c - a), powSide(-z, -a, -side), a, a - c + 1.0, a - b + 1.0,
+                               gammaRatio(c, a - b, a, c - b), powSide(-z, -b, -side), b, b - c + 1.0, b - a + 1.0, w,
+                               gapAb, roundAb);
+            }
+            case InvOneMinusZ: {
+                if (wholeAb) return kFailed;
+                cd w = one / (one - z);
+                return twoTerm(gammaRatio(c, b - a, b, c - a), powSide(one - z, -a, -side), a, c - b, a - b + 1.0,
+                               gammaRatio(c, a - b, a, c - b), powSide(one - z, -b, -side), b, c - a, b - a + 1.0, w,
+                               gapAb, roundAb);
+            }
+        }
+        return kFailed;
+    };
+
+    Estimate best = kFailed;
+    for (const Candidate& cand : candidates) {
+        if (cand.rho > 0.85) break;
+        Estimate e = evaluate(cand.method);
+        if (e.relative() < best.relative()) best = e;
+        if (best.relative() <= 64.0 * kEps) return best;
+    }
+    // The path is the fallback; its estimate is less sure than those of the
+    // series, so it has to win by a margin.
+    if (best.relative() > 1e-12) {
+        Estimate e = hyp2f1Ode(a, b, c, z, side);
+        if (10.0 * e.relative() < best.relative()) best = e;
+    }
+    return best;
 }
 
 // ====================================================== Fermi-Dirac =========
@@ -551,8 +836,9 @@ double etaEven(int k) {  // eta(2k), k >= 0
     return 1.0 - std::pow(2.0, e) + std::pow(3.0, e) - std::pow(4.0, e) + std::pow(5.0, e);
 }
 
-// -Li_s(-exp(x)) = sum_k (-1)^(k+1) exp(k x) / k^s for x <= -1 (or any x < 0
-// where the caller accepts the number of terms).
+// -Li_s(-exp(x)) = sum_k (-1)^(k+1) exp(k x) / k^s, for x <= -1, or for large
+// s as long as exp(x) / 2^s is negligible (the series then diverges only far
+// beyond the terms that matter).
 double fermiPolylog(double s, double x) {
     double sum = 0.0;
     for (int k = 1; k < 100000; ++k) {
@@ -622,57 +908,59 @@ double logistic(double y) {
 double fermiQuadrature(double j, double x) {
     const double halfPi = 0.5 * kPi;
     const double s = j + 1.0;
-    // occupation 1/(exp(t - x) + 1) = logistic(x - t)
+    // t^j / Gamma(j+1) * 1/(exp(t - x) + 1); in logarithms for large j, where
+    // t^j and Gamma(j+1) overflow
+    const bool large = j > 100.0;
+    const double norm = large ? std::lgamma(s) : 1.0 / std::tgamma(s);
+    auto density = [&](double t, double occupation, double logOccupation) {
+        if (large) return std::exp(j * std::log(t) - norm + logOccupation);
+        return std::pow(t, j) * norm * occupation;
+    };
+    // log of the occupation logistic(x - t)
+    auto logOcc = [&](double y) { return y >= 0.0 ? -std::log1p(std::exp(-y)) : y - std::log1p(std::exp(y)); };
+
+    if (j >= 0.0 && j <= 30.0 && x < 2.0) {
+        // exp-sinh over (0, inf) in one piece
+        auto g = [&](double u) {
+            double t = std::exp(halfPi * std::sinh(u));
+            return density(t, logistic(x - t), 0.0) * t * halfPi * std::cosh(u);
+        };
+        return deTrapezoid(g, 1e-13);
+    }
+    // split at t0, near where the integrand peaks: [0, t0] by tanh-sinh,
+    // [t0, inf) by exp-sinh
+    const double t0 = std::max({x, 1.0, j});
     double total = 0.0;
     if (j < 0.0) {
         // v = t^(j+1) removes the singularity at 0:
-        //   integral = 1/(j+1) integral_0^inf occupation(v^(1/(j+1))) dv
+        //   integral_0^t0 t^j f(t) dt = 1/(j+1) integral_0^(t0^(j+1)) f(v^(1/(j+1))) dv
         const double inv = 1.0 / s;
-        if (x < 2.0) {
-            auto g = [&](double u) {
-                double v = std::exp(halfPi * std::sinh(u));
-                double t = std::pow(v, inv);
-                return logistic(x - t) * v * halfPi * std::cosh(u);
-            };
-            total = deTrapezoid(g, 1e-13) / s;
-        } else {
-            const double top = std::pow(x, s);  // v at t = x
-            auto low = [&](double u) {  // tanh-sinh on [0, top]
-                double y = kPi * std::sinh(u);
-                double sl = logistic(y), sr = logistic(-y);
-                double v = top * sl;
-                double t = std::pow(v, inv);
-                return logistic(x - t) * top * sl * sr * kPi * std::cosh(u);
-            };
-            auto high = [&](double u) {  // exp-sinh on [top, inf)
-                double e = std::exp(halfPi * std::sinh(u));
-                double v = top + e;
-                double t = std::pow(v, inv);
-                return logistic(x - t) * e * halfPi * std::cosh(u);
-            };
-            total = (deTrapezoid(low, 1e-13) + deTrapezoid(high, 1e-13)) / s;
-        }
-    } else if (x < 2.0) {
-        auto g = [&](double u) {
-            double t = std::exp(halfPi * std::sinh(u));
-            return std::pow(t, j) * logistic(x - t) * t * halfPi * std::cosh(u);
-        };
-        total = deTrapezoid(g, 1e-13);
-    } else {
-        auto low = [&](double u) {  // tanh-sinh on [0, x]
+        const double top = std::pow(t0, s);
+        auto low = [&](double u) {
             double y = kPi * std::sinh(u);
             double sl = logistic(y), sr = logistic(-y);
-            double t = x * sl;
-            double gap = x * sr;  // x - t, accurate near the upper end
-            return std::pow(t, j) * logistic(gap) * x * sl * sr * kPi * std::cosh(u);
+            double t = std::pow(top * sl, inv);
+            return logistic(x - t) * top * sl * sr * kPi * std::cosh(u);
         };
-        auto high = [&](double u) {  // exp-sinh on [x, inf), t = x + e
-            double e = std::exp(halfPi * std::sinh(u));
-            return std::pow(x + e, j) * logistic(-e) * e * halfPi * std::cosh(u);
+        total = deTrapezoid(low, 1e-13) * norm / s;
+    } else {
+        auto low = [&](double u) {
+            double y = kPi * std::sinh(u);
+            double sl = logistic(y), sr = logistic(-y);
+            double t = t0 * sl;
+            double gap = t0 * sr;  // t0 - t, accurate near the upper end
+            double arg = x - t0 + gap;
+            return density(t, logistic(arg), large ? logOcc(arg) : 0.0) * t0 * sl * sr * kPi * std::cosh(u);
         };
-        total = deTrapezoid(low, 1e-13) + deTrapezoid(high, 1e-13);
+        total = deTrapezoid(low, 1e-13);
     }
-    return total / std::tgamma(s);
+    auto high = [&](double u) {  // t = t0 + e
+        double e = std::exp(halfPi * std::sinh(u));
+        double arg = x - t0 - e;
+        return density(t0 + e, logistic(arg), large ? logOcc(arg) : 0.0) * e * halfPi * std::cosh(u);
+    };
+    total += deTrapezoid(high, 1e-13);
+    return total;
 }
 
 // For x > 0:
@@ -686,7 +974,7 @@ double fermiSommerfeld(double j, double x) {
     // k = 0 term: x^s / Gamma(s+1)
     double base;
     double logBase = s * std::log(x) - std::lgamma(s + 1.0);
-    if (s + 1.0 < 170.0 && logBase < 700.0) base = std::pow(x, s) / std::tgamma(s + 1.0);
+    if (s + 1.0 < 170.0 && s * std::log(x) < 700.0) base = std::pow(x, s) / std::tgamma(s + 1.0);
     else base = std::exp(logBase);
     double sum = 1.0;
     double factor = 1.0;  // Gamma(s+1) / Gamma(s+1-2k) x^-2k
@@ -784,7 +1072,7 @@ double dawsonPositive(double x) {
             sum += term;
             if (term < 1e-18 * sum) break;
         }
-        return sum / (2.0 * x);
+        return sum * (0.5 / x);
     }
     // Rybicki's sampling formula
     //   F(x) = 1/sqrt(pi) sum_(n odd) exp(-(x' - n h)^2) / (n + n0),
@@ -811,6 +1099,7 @@ std::complex<double> struve(double nu, double x) {
     if (x == 0.0) return {struveAtZero(nu), 0.0};
     if (std::isinf(x)) h = struveAtInfinity(nu);
     else h = struvePositive(nu, std::fabs(x));
+    if (std::isnan(h)) return kCNaN;
     if (x > 0.0) return {h, 0.0};
     return struveReflect(nu, h);
 }
@@ -874,40 +1163,43 @@ std::complex<double> lambertW(std::complex<double> z) {
 }
 
 std::complex<double> hypergeometric2F1(double a, double b, double c, std::complex<double> z) {
-    if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(c) || !std::isfinite(z.real()) ||
-        !std::isfinite(z.imag()))
-        return kCNaN;
-    const bool polyA = isNonPositiveWhole(a), polyB = isNonPositiveWhole(b);
-    const bool polynomial = polyA || polyB;
-    double degree = kInf;
-    if (polyA) degree = -a;
-    if (polyB) degree = std::min(degree, -b);
-    if (isNonPositiveWhole(c)) {
+    if (!std::isfinite(a) || !std::isfinite(b) || !std::isfinite(c) || !isFinite(z)) return kCNaN;
+    // the series terminates when a or b is a non-positive whole number; let a
+    // be the one that ends it first
+    if (isNonPositiveWhole(b) && (!isNonPositiveWhole(a) || b > a)) std::swap(a, b);
+    const bool polynomial = isNonPositiveWhole(a);
+    if (polynomial && a < -1e7) return kCNaN;  // beyond any sensible degree
+    if (isNonPositiveWhole(c) && !(polynomial && -a <= -c)) {
         // (c)_k vanishes from k = 1 - c on; defined only if the series ended before
-        if (!(polynomial && degree <= -c)) return kCNaN;
-        return gaussPolynomial(a, b, c, z);
+        return kCNaN;
     }
     if (a == 0.0 || b == 0.0 || (z.real() == 0.0 && z.imag() == 0.0)) return {1.0, 0.0};
-    if (polynomial) return gaussPolynomial(a, b, c, z);
 
     // Points on the cut [1, inf) take the limit from below.
     const int side = z.imag() > 0.0 ? 1 : -1;
     const bool realBelowOne = z.imag() == 0.0 && z.real() < 1.0;
 
-    if (z.real() == 1.0 && z.imag() == 0.0) {
+    Estimate result;
+    if (polynomial) {
+        result = gaussPolynomial(-a, b, c, z, side);
+    } else if (z.real() == 1.0 && z.imag() == 0.0) {
         if (c - a - b <= 0.0) return kCNaN;
         return {gammaRatio(c, c - a - b, c - a, c - b), 0.0};
+    } else if (isNonPositiveWhole(c - a) || isNonPositiveWhole(c - b)) {
+        // Euler's transformation turns the function into (1-z)^(c-a-b) times
+        // a polynomial.
+        double ap = c - a, bp = c - b;
+        if (isNonPositiveWhole(bp) && (!isNonPositiveWhole(ap) || bp > ap)) std::swap(ap, bp);
+        if (ap < -1e7) return kCNaN;
+        cd factor = powSide(1.0 - z, c - a - b, -side);
+        Estimate p = gaussPolynomial(-ap, bp, c, z, side);
+        result = {factor * p.value, std::abs(factor) * p.error};
+    } else {
+        result = hyp2f1General(a, b, c, z, side);
     }
-    // c - a or c - b a non-positive whole number: Euler's transformation turns
-    // the function into (1-z)^(c-a-b) times a polynomial.
-    if (isNonPositiveWhole(c - a) || isNonPositiveWhole(c - b)) {
-        cd value = powSide(1.0 - z, c - a - b, -side) * gaussPolynomial(c - a, c - b, c, z);
-        if (realBelowOne) value.imag(0.0);
-        return value;
-    }
-    cd value = hyp2f1General(a, b, c, z, side);
-    if (realBelowOne) value.imag(0.0);
-    return value;
+    if (!isFinite(result.value) && !std::isinf(std::abs(result.value))) return kCNaN;
+    if (realBelowOne) result.value.imag(0.0);
+    return result.value;
 }
 
 double fermiDirac(double j, double x) {
@@ -916,9 +1208,11 @@ double fermiDirac(double j, double x) {
     if (x == -kInf) return 0.0;
     if (x == kInf) return kInf;
     const double s = j + 1.0;
-    if (x < -1.0) return fermiPolylog(s, x);
+    // the polylogarithm series, when its terms fall fast from the start
+    if (x < -1.0 || x < s * 0.6931471805599453 - 42.0) return fermiPolylog(s, x);
     if (isWhole(j) && j <= 100.0 && x >= 1.0) return fermiSommerfeld(j, x);
-    if (x >= 50.0) return fermiSommerfeld(j, x);
+    // the asymptotic series reaches full precision once x is well beyond j
+    if (x >= 50.0 + 2.0 * j) return fermiSommerfeld(j, x);
     return fermiQuadrature(j, x);
 }
 

@@ -56,9 +56,18 @@ std::complex<double> lambertW(std::complex<double> z);
 
 // 2F1(a, b; c; z) for real a, b, c and complex z, on the principal branch
 // (cut [1, inf)). A point on the cut takes the limit from below (Im z -> 0-).
-// Polynomials (a or b a non-positive integer) are summed directly for any z.
-// NaN where undefined: c a non-positive integer without earlier termination of
-// the series, z = 1 with c - a - b <= 0, or a non-finite argument.
+// The value comes from the power series about 0 or one of the linear
+// transformations (z/(z-1), 1-z, 1-1/z, 1/z, 1/(1-z)), with their logarithmic
+// limit forms when c-a-b or a-b is a whole number, or, where none of them
+// converges fast or all of them cancel badly, from the differential equation
+// followed from a point inside the unit disc. Polynomials (a or b a
+// non-positive whole number, degree up to 1e7) are finite for every z.
+// NaN where undefined: c a non-positive whole number without earlier
+// termination of the series, z = 1 with c - a - b <= 0 (unless a polynomial),
+// or a non-finite argument. Accuracy is relative to the size of the terms that
+// cancel; near a zero of the function, for large parameters and for c-a-b or
+// a-b within 1e-3 of (but not at) a whole number it is lower; see
+// docs/ACCURACY.md.
 std::complex<double> hypergeometric2F1(double a, double b, double c, std::complex<double> z);
 
 // ------------------------------------------------------- Fermi-Dirac ---------
