@@ -250,7 +250,10 @@ void vhValue::setValue(const vhValue& v, unsigned int i, unsigned int j)
         setValue(v, i * m_columns + j);
         return;
     }
-    // Past the end of a vector's one dimension the vector grows.
+    // Past the end of a vector's one dimension the vector grows; an image
+    // never grows, as its writes out of range are dropped.
+    if (m_image)
+        return;
     if (i == 0 && m_rows == 1 && j >= m_columns && j != 0xFFFFFFFFu) {
         vhValue keep(v);
         if (allocateMatrix(1, j + 1))
@@ -306,18 +309,26 @@ void vhValue::setValue(const vhValue& v, const vhValue& i, const vhValue& j)
 
 // --- storage conversions ---------------------------------------------------------
 
+// Both conversions build one named result, so that a large array is not
+// copied again on return.
 vhValue vhValue::toValueVectorOrMatrix() const
 {
-    const vhValue& v = arrayGrade();
-    if (&v != this)
-        return v.toValueVectorOrMatrix();
-    if (isNull() || !isArrayTag(m_valueType))
-        return vhValue();
-    if (!m_numeric)
-        return *this;
-    if (m_rows * m_columns > kMaximumElementConversion)
-        return vhValue();
     vhValue result;
+    const vhValue& v = arrayGrade();
+    if (&v != this) {
+        vhValue converted = v.toValueVectorOrMatrix();
+        result.swapRecord(converted);
+        return result;
+    }
+    if (isNull() || !isArrayTag(m_valueType))
+        return result;
+    if (!m_numeric) {
+        vhValue copy(*this);
+        result.swapRecord(copy);
+        return result;
+    }
+    if (m_rows * m_columns > kMaximumElementConversion)
+        return result;
     result.m_valueType = m_valueType;
     result.m_undefined = false;
     result.m_numberOfDecimalPlaces = m_numberOfDecimalPlaces;
@@ -326,9 +337,12 @@ vhValue vhValue::toValueVectorOrMatrix() const
     for (std::uint32_t k = 0; k < m_numericSize && k < result.m_elements.size(); ++k) {
         vhValue e = value(k);
         // A complex element with an exact zero imaginary part is a double.
-        if (e.m_valueType == tagComplex && e.m_im == 0.0)
-            e = vhDouble(e.m_re);
-        result.m_elements[k] = e;
+        if (e.m_valueType == tagComplex && e.m_im == 0.0) {
+            vhDouble real(e.m_re);
+            real.m_numberOfDecimalPlaces = e.m_numberOfDecimalPlaces;
+            e.swapRecord(real);
+        }
+        result.m_elements[k].swapRecord(e);
     }
     result.m_columnNames = m_columnNames;
     return result;
@@ -336,27 +350,43 @@ vhValue vhValue::toValueVectorOrMatrix() const
 
 vhValue vhValue::toNumericVectorOrMatrix() const
 {
+    vhValue result;
     const vhValue& v = arrayGrade();
-    if (&v != this)
-        return v.toNumericVectorOrMatrix();
+    if (&v != this) {
+        vhValue converted = v.toNumericVectorOrMatrix();
+        result.swapRecord(converted);
+        return result;
+    }
     if (isNull() || !isArrayTag(m_valueType))
-        return vhValue();
-    if (m_numeric)
-        return *this;
+        return result;
+    // An array already numeric, and the empty vector, which has no shape to
+    // fill, are copied as they are.
+    if (m_numeric || vectorSize() == 0) {
+        vhValue copy(*this);
+        result.swapRecord(copy);
+        return result;
+    }
     // Every element must be a defined real number; a complex element makes
     // the whole conversion fail.
     for (const vhValue& e : m_elements)
         if (!e.isDouble())
-            return vhValue();
-    vhValue result;
+            return result;
     result.m_valueType = m_valueType;
     result.m_undefined = false;
     result.m_numeric = true;
     result.m_numberOfDecimalPlaces = m_numberOfDecimalPlaces;
-    if (!result.allocateMatrix(m_rows, m_columns))
-        return vhValue();
-    for (std::uint32_t k = 0; k < result.m_numericSize && k < m_elements.size(); ++k)
-        result.m_numericData[k] = m_elements[k].toDouble();
+    if (!result.allocateMatrix(m_rows, m_columns)) {
+        result.clear();
+        return result;
+    }
+    if (m_image) {
+        // Pixels read as the numbers of their words, as value() gives them.
+        for (std::uint32_t k = 0; k < result.m_numericSize && k < m_imageSize && m_imageData; ++k)
+            result.m_numericData[k] = m_imageData[k];
+    } else {
+        for (std::uint32_t k = 0; k < result.m_numericSize && k < m_elements.size(); ++k)
+            result.m_numericData[k] = m_elements[k].toDouble();
+    }
     result.m_columnNames = m_columnNames;
     return result;
 }

@@ -8,30 +8,29 @@
 namespace VarnholtMath {
 namespace ValueTypes {
 
-namespace {
 // Two whole 32-bit numbers multiply as integers, wrapping around, just as
 // their element values do; any other pair multiplies as doubles.
-double product(double x, double y)
+double elementProduct(double x, double y)
 {
     const std::int32_t a = internal::cutToInt32(x), b = internal::cutToInt32(y);
     if (double(a) == x && double(b) == y)
         return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
     return x * y;
 }
-} // namespace
 
 vhValue elementwise(const vhValue& a, const vhValue& b, bool divide)
 {
+    // One named result, built in place and never copied on return.
+    vhValue result;
     if (a.isNull() || b.isNull())
-        return vhValue();
+        return result;
     const unsigned int rows = a.matrixRows(), columns = a.matrixColumns();
     if (rows != b.matrixRows() || columns != b.matrixColumns() || rows == 0 || columns == 0)
-        return vhValue();
-    vhValue result;
+        return result;
     if (a.valueType() == tagVector)
-        result = vhVector(rows * columns, rows == 1, true, false);
+        result.setValue(vhVector(rows * columns, rows == 1, true, false));
     else
-        result = vhMatrix(rows, columns, true, false, false);
+        result.setValue(vhMatrix(rows, columns, true, false, false));
     const unsigned int n = rows * columns;
     const double* x = a.numericValues();
     const double* y = b.numericValues();
@@ -43,7 +42,7 @@ vhValue elementwise(const vhValue& a, const vhValue& b, bool divide)
             if (divide)
                 r[i] = y[i] == 0.0 ? std::numeric_limits<double>::quiet_NaN() : x[i] / y[i];
             else
-                r[i] = product(x[i], y[i]);
+                r[i] = elementProduct(x[i], y[i]);
         }
         return result;
     }

@@ -12,5 +12,10 @@ namespace ValueTypes {
 // a.divide(b); an entry that is symbolic turns the storage into elements.
 vhValue elementwise(const vhValue& a, const vhValue& b, bool divide);
 
+// The product of two numbers read from numeric storage, as their element
+// values multiply: two whole 32-bit numbers as integers, wrapping around;
+// any other pair as doubles.
+double elementProduct(double x, double y);
+
 } // namespace ValueTypes
 } // namespace VarnholtMath

@@ -73,11 +73,15 @@ bool vhValue::reserveStorage(unsigned int rows, unsigned int columns, bool clear
     if (m_numeric) {
         std::free(m_numericData);
         m_numericSize = 0;
-        m_numericData = static_cast<double*>(std::malloc(sizeof(double) * 2 * std::size_t(n)));
+        // Two separate calls: a malloc followed by a memset under a condition
+        // may otherwise be merged into a calloc that clears every time.
+        const std::size_t bytes = sizeof(double) * 2 * std::size_t(n);
+        if (clearContent)
+            m_numericData = static_cast<double*>(std::calloc(1, bytes));
+        else
+            m_numericData = static_cast<double*>(std::malloc(bytes));
         if (!m_numericData)
             return false;
-        if (clearContent)
-            std::memset(m_numericData, 0, sizeof(double) * 2 * std::size_t(n));
         m_numericSize = n;
     } else if (m_image) {
         std::free(m_imageData);

@@ -3,9 +3,11 @@
 #include "value/class_macros.h"
 #include "value/value.h"
 
+#include <cstdint>
 #include <cstring>
 
 #include "value/array_kernels.h"
+#include "value/dense_kernels.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -72,6 +74,10 @@ vhValue vhMatrix::multiply(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::multiply(other);
+    // Two arrays of this tag go element by element; any other pair is the
+    // plain product.
+    if (other.arrayGrade().m_valueType != tagMatrix)
+        return *this * other;
     return elementwise(*this, other, false);
 }
 
@@ -79,43 +85,164 @@ vhValue vhMatrix::divide(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::divide(other);
+    if (other.arrayGrade().m_valueType != tagMatrix)
+        return *this / other;
     return elementwise(*this, other, true);
 }
 
-// PENDING(matrices): arithmetic of this class.
+vhValue vhValue::matrixArithmetic(const vhValue& other, char op) const
+{
+    const vhValue& right = other.arrayGrade();
+    if (isNull() || right.isNull())
+        return vhValue();
+    const int t = right.m_valueType;
+    // A vector on the right acts as the matrix of its shape.
+    if (t == tagVector)
+        return matrixArithmetic(right.copyAsMatrix(), op);
+
+    if (op == '+' || op == '-') {
+        const bool subtract = op == '-';
+        if (t != tagMatrix)
+            return t < tagSymbolicValue ? addSameShape(right, subtract) : addSameShape(arrayOfOwnShape(right), subtract);
+        if (m_rows != right.m_rows || m_columns != right.m_columns)
+            return vhValue();
+        return addSameShape(right, subtract);
+    }
+
+    if (t != tagMatrix)
+        return scaleByScalar(right, op == '/');
+    if (m_matrixScalarMultiplicationAndDivisionOn)
+        return elementwise(*this, right, op == '/');
+    if (op == '*')
+        return matrixProduct(right);
+    // Division by a matrix is multiplication by its cofactor inverse; a
+    // singular matrix has none, and the quotient is undefined.
+    vhValue inverse = vhMatrix(right).inverse();
+    if (inverse.isNull())
+        return vhValue();
+    return matrixArithmetic(inverse, '*');
+}
+
 vhValue vhMatrix::operator+(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::operator+(other);
-    return vhValue();
+    return matrixArithmetic(other, '+');
 }
 
 vhValue vhMatrix::operator-(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::operator-(other);
-    return vhValue();
+    return matrixArithmetic(other, '-');
 }
 
 vhValue vhMatrix::operator*(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::operator*(other);
-    return vhValue();
+    return matrixArithmetic(other, '*');
 }
 
 vhValue vhMatrix::operator/(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::operator/(other);
-    return vhValue();
+    return matrixArithmetic(other, '/');
 }
 
 bool vhMatrix::operator==(const vhValue& other) const
 {
     if (m_valueType != tagMatrix)
         return vhValue::operator==(other);
-    return false;
+    // A richer right operand decides; a poorer one, a vector included, is
+    // never equal.
+    if (other.m_valueType > tagMatrix)
+        return other == *this;
+    if (other.m_valueType < tagMatrix)
+        return false;
+    return sameShapeEqual(other);
+}
+
+void vhMatrix::resize(unsigned int rows, unsigned int columns)
+{
+    if (m_valueType != tagMatrix || rows == 0 || columns == 0 || (rows == m_rows && columns == m_columns))
+        return;
+    allocateMatrix(rows, columns);
+}
+
+void vhMatrix::setNumericValues(double* data, unsigned int n)
+{
+    if (!m_numeric || !m_numericData || !data || n == 0 || n != m_numericSize)
+        return;
+    std::memcpy(m_numericData, data, sizeof(double) * n);
+}
+
+void vhMatrix::setNumericImValues(double* data, unsigned int n)
+{
+    if (!m_numeric || !m_numericData || !data || n == 0 || n != m_numericSize)
+        return;
+    std::memcpy(m_numericData + m_numericSize, data, sizeof(double) * n);
+    m_numericComplex = true;
+}
+
+vhValue vhMatrix::transpose() const
+{
+    vhValue result;
+    if (m_valueType != tagMatrix || isNull())
+        return result;
+    const std::uint32_t rows = m_rows, columns = m_columns;
+    if (m_numeric) {
+        if (std::uint64_t(rows) * columns != m_numericSize)
+            return result;
+        vhValue t = numericArray(tagMatrix, columns, rows, m_numericComplex, false);
+        result.swapRecord(t);
+        if (!result.m_numericData)
+            return result;
+        const std::size_t n = m_numericSize;
+        dense::transpose(m_numericData, result.m_numericData, rows, columns);
+        if (m_numericComplex)
+            dense::transpose(m_numericData + n, result.m_numericData + n, rows, columns);
+        else
+            dense::zero(result.m_numericData + n, n);
+    } else if (m_image) {
+        if (std::uint64_t(rows) * columns != m_imageSize)
+            return result;
+        // An image stays an image; its pixels move by index.
+        vhMatrix t(columns, rows, false, true, false);
+        if (!t.m_imageData)
+            return result;
+        for (std::uint32_t i = 0; i < rows; ++i)
+            for (std::uint32_t j = 0; j < columns; ++j)
+                t.m_imageData[std::size_t(j) * rows + i] = m_imageData[std::size_t(i) * columns + j];
+        t.m_dpi = m_dpi;
+        result.swapRecord(t);
+    } else {
+        vhMatrix t(columns, rows, false, false, false);
+        for (std::uint32_t i = 0; i < rows; ++i)
+            for (std::uint32_t j = 0; j < columns; ++j)
+                t.setValue(value(i, j), j, i);
+        result.swapRecord(t);
+    }
+    result.m_numberOfDecimalPlaces = m_numberOfDecimalPlaces;
+    return result;
+}
+
+vhValue vhMatrix::conjugateTranspose() const
+{
+    vhValue result = transpose();
+    if (result.isNull())
+        return result;
+    if (result.m_numeric) {
+        if (result.m_numericComplex)
+            dense::negate(result.m_numericData + result.m_numericSize, result.m_numericData + result.m_numericSize,
+                          result.m_numericSize);
+    } else if (!result.m_image) {
+        for (vhValue& e : result.m_elements)
+            if (e.isComplex())
+                e = vhComplex(e.complexRe(), -e.complexIm());
+    }
+    return result;
 }
 
 VH_DEFINE_COMPOUND_OPERATORS(vhMatrix, tagMatrix)

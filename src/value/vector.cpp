@@ -4,8 +4,10 @@
 #include "value/value.h"
 
 #include <cstring>
+#include <utility>
 
 #include "value/array_kernels.h"
+#include "value/dense_kernels.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -70,6 +72,10 @@ vhValue vhVector::multiply(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::multiply(other);
+    // Two arrays of this tag go element by element; any other pair is the
+    // plain product.
+    if (other.arrayGrade().m_valueType != tagVector)
+        return *this * other;
     return elementwise(*this, other, false);
 }
 
@@ -77,43 +83,144 @@ vhValue vhVector::divide(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::divide(other);
+    if (other.arrayGrade().m_valueType != tagVector)
+        return *this / other;
     return elementwise(*this, other, true);
 }
 
-// PENDING(vectors): arithmetic of this class.
+vhValue vhValue::vectorArithmetic(const vhValue& other, char op) const
+{
+    const vhValue& right = other.arrayGrade();
+    if (right.isNull())
+        return vhValue();
+    const int t = right.m_valueType;
+    const bool rightIsArray = t == tagVector || t == tagMatrix;
+
+    if (op == '+' || op == '-') {
+        const bool subtract = op == '-';
+        // A vector and a matrix never add, not even a one-row matrix.
+        if (t == tagMatrix)
+            return vhValue();
+        if (t != tagVector)
+            return t < tagSymbolicValue ? addSameShape(right, subtract) : addSameShape(arrayOfOwnShape(right), subtract);
+        // A row and a column of the same length don't add.
+        if (m_rows != right.m_rows || m_columns != right.m_columns)
+            return vhValue();
+        return addSameShape(right, subtract);
+    }
+
+    if (!rightIsArray)
+        return scaleByScalar(right, op == '/');
+    if (t == tagMatrix)
+        return copyAsMatrix().matrixArithmetic(right, op);
+    if (m_matrixScalarMultiplicationAndDivisionOn)
+        return elementwise(*this, right, op == '/');
+    if (op == '/')
+        return vhValue();
+    if (m_rows == 1 && right.m_columns == 1)
+        return dotProduct(right);
+    if (m_columns == 1 && right.m_rows == 1)
+        return outerProduct(right);
+    return vhValue();
+}
+
 vhValue vhVector::operator+(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::operator+(other);
-    return vhValue();
+    return vectorArithmetic(other, '+');
 }
 
 vhValue vhVector::operator-(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::operator-(other);
-    return vhValue();
+    return vectorArithmetic(other, '-');
 }
 
 vhValue vhVector::operator*(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::operator*(other);
-    return vhValue();
+    return vectorArithmetic(other, '*');
 }
 
 vhValue vhVector::operator/(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::operator/(other);
-    return vhValue();
+    return vectorArithmetic(other, '/');
 }
 
 bool vhVector::operator==(const vhValue& other) const
 {
     if (m_valueType != tagVector)
         return vhValue::operator==(other);
-    return false;
+    // A richer right operand decides; a poorer one is never equal.
+    if (other.m_valueType > tagVector)
+        return other == *this;
+    if (other.m_valueType < tagVector)
+        return false;
+    return sameShapeEqual(other);
+}
+
+void vhVector::resize(unsigned int n, bool row)
+{
+    if (m_valueType != tagVector || n == 0 || n == vectorSize())
+        return;
+    allocateMatrix(row ? 1 : n, row ? n : 1);
+}
+
+void vhVector::setNumericValues(double* data, unsigned int n)
+{
+    if (!m_numeric || !m_numericData || !data || n == 0)
+        return;
+    const unsigned int copied = n < m_numericSize ? n : m_numericSize;
+    std::memcpy(m_numericData, data, sizeof(double) * copied);
+    std::memset(m_numericData + copied, 0, sizeof(double) * (m_numericSize - copied));
+}
+
+void vhVector::setNumericImValues(double* data, unsigned int n)
+{
+    if (!m_numeric || !m_numericData || !data || n == 0)
+        return;
+    const unsigned int copied = n < m_numericSize ? n : m_numericSize;
+    double* imaginary = m_numericData + m_numericSize;
+    std::memcpy(imaginary, data, sizeof(double) * copied);
+    std::memset(imaginary + copied, 0, sizeof(double) * (m_numericSize - copied));
+    m_numericComplex = true;
+}
+
+vhValue vhVector::transpose() const
+{
+    vhValue result;
+    if (m_valueType != tagVector) {
+        vhVector empty;
+        result.swapRecord(empty);
+        return result;
+    }
+    // A vector keeps its data in the same order as a row or a column.
+    vhValue copy(*this);
+    result.swapRecord(copy);
+    std::swap(result.m_rows, result.m_columns);
+    result.m_rowNames.clear();
+    result.m_columnNames.clear();
+    return result;
+}
+
+vhValue vhVector::conjugateTranspose() const
+{
+    vhValue result = transpose();
+    if (result.m_numeric) {
+        if (result.m_numericComplex && result.m_numericData)
+            dense::negate(result.m_numericData + result.m_numericSize, result.m_numericData + result.m_numericSize,
+                          result.m_numericSize);
+    } else if (!result.m_image) {
+        for (vhValue& e : result.m_elements)
+            if (e.isComplex())
+                e = vhComplex(e.complexRe(), -e.complexIm());
+    }
+    return result;
 }
 
 VH_DEFINE_COMPOUND_OPERATORS(vhVector, tagVector)
