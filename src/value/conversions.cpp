@@ -23,9 +23,9 @@ int vhValue::toInt() const
     const vhValue& v = fullGrade();
     if (v.isNull() || !isRealTag(v.m_valueType))
         return 0;
-    // A pointer value reads as the number it points at.
-    if (v.m_valueType == tagInteger && v.m_pointer)
-        return v.m_pointer == &v ? 0 : v.m_pointer->toInt();
+    // The processor's cut: outside 32 bits, and for NaN, -2147483648. A
+    // pointer value keeps 0 as its own number and reads as 0; its pointee is
+    // reached only through dereference.
     return internal::cutToInt32(v.m_re);
 }
 
@@ -42,7 +42,7 @@ double vhValue::toDouble() const
     if (v.isNull())
         return kNaN;
     if (isRealTag(v.m_valueType)) {
-        if (v.m_valueType == tagInteger && v.m_pointer)
+        if (v.isPointer())
             return v.toInt();
         return v.m_re;
     }
@@ -57,7 +57,7 @@ bool vhValue::toBool() const
     if (v.isNull())
         return false;
     if (isRealTag(v.m_valueType)) {
-        if (v.m_valueType == tagInteger && v.m_pointer)
+        if (v.isPointer())
             return v.toInt() != 0;
         return v.m_re != 0.0;
     }
@@ -81,7 +81,7 @@ double vhValue::complexRe() const
     const vhValue& v = fullGrade();
     if (v.isNull())
         return kNaN;
-    if (v.m_valueType == tagInteger && v.m_pointer)
+    if (v.isPointer())
         return v.toInt();
     if (isRealTag(v.m_valueType) || v.m_valueType == tagComplex)
         return v.m_re;

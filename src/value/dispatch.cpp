@@ -233,7 +233,9 @@ vhValue vhValue::multiply(const vhValue& other) const
         return m_expressionValues[0].multiply(other);
     if (isNull() || other.isNull())
         return vhValue();
-    if (isArrayTag(*this) && isArrayTag(other)) {
+    // Two vectors or two matrices go element by element and need one shape;
+    // every other pair, a vector with a matrix included, is the plain operator.
+    if (isArrayTag(*this) && other.valueType() == m_valueType) {
         if (matrixRows() != other.matrixRows() || matrixColumns() != other.matrixColumns())
             return vhValue();
         if (m_valueType == tagVector)
@@ -249,7 +251,7 @@ vhValue vhValue::divide(const vhValue& other) const
         return m_expressionValues[0].divide(other);
     if (isNull() || other.isNull())
         return vhValue();
-    if (isArrayTag(*this) && isArrayTag(other)) {
+    if (isArrayTag(*this) && other.valueType() == m_valueType) {
         if (matrixRows() != other.matrixRows() || matrixColumns() != other.matrixColumns())
             return vhValue();
         if (m_valueType == tagVector)

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #include "value/class_macros.h"
 #include "value/value.h"
@@ -38,6 +39,15 @@ vhValue divideByRicher(const vhValue& left, const vhValue& right)
         // [0.5, 0.25].
         vhValue result(right);
         const unsigned int n = right.vectorSize();
+        double* data = result.numericValues();
+        if (data && !result.numericImValues() && left.isDouble()) {
+            // A real number over real numbers, on the raw block: each quotient
+            // as the scalar one, where a zero element has no result (NaN).
+            const double l = left.toDouble();
+            for (unsigned int i = 0; i < n; ++i)
+                data[i] = data[i] == 0.0 ? std::numeric_limits<double>::quiet_NaN() : l / data[i];
+            return result;
+        }
         for (unsigned int i = 0; i < n; ++i)
             result.setValue(left / right.value(i), i);
         return result;

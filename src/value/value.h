@@ -332,6 +332,39 @@ public:
     // becomes its reciprocal, arrays and expressions invert element by
     // element, a fraction inverts both parts.
     void invertExponent();
+    // As multipliers, but a power of a product spreads over its factors:
+    // (x*y)^n lists x^n and y^n.
+    unsigned int powmultipliers(std::vector<vhValue>& list) const;
+    // Sets the value the multiplier points to to 1.0, cutting the chain.
+    void resetMultiplier();
+    // Both symbols or strings with equal character formats.
+    bool charFormatEqual(const vhValue& other) const;
+    // Equal but for the coefficient: the test of whether two terms merge.
+    bool stringEqual(const vhValue& other) const;
+    // The exponent back to 1; a power becomes its base.
+    void resetExponent();
+    // Raises to e; a symbolic e makes a held pow.
+    void setExponent(const vhValue& e);
+    // Same symbol, unit or function call, whatever coefficient and exponent.
+    bool symbolicEqual(const vhValue& other) const;
+    // Writes the exponent of the symbol in this term's factors; false (and 0)
+    // when the term does not hold it.
+    bool exponentForSymbol(const vhValue& symbol, double& exponent, bool includeUnits) const;
+    // Whether products collapse an atom whose exponent comes out as zero.
+    void sweepNullExponents(bool on);
+    // Held functions: same function and arguments, or same arguments only.
+    bool functionEqual(const vhValue& other) const;
+    bool functionArgumentsEqual(const vhValue& other) const;
+    bool isDerivativeFunction() const;
+    bool isIntegrativeFunction() const;
+    // Some argument holds more than 10 elements.
+    bool functionOversized() const;
+    // Orders the terms of a sum by falling powers of the symbol, terms
+    // without it last.
+    void arrangeExponents(const vhValue& symbol);
+    void arrangeExponentsForFirstSymbol(bool onlyOneSymbol);
+    vhValue arrangeExponentsConst(const vhValue& symbol) const;
+    vhValue arrangeExponentsForFirstSymbolConst(bool onlyOneSymbol) const;
 
 protected:
     // Tag of the class whose operators a value of the given tag runs; the
@@ -355,6 +388,22 @@ protected:
     // The same, but only when the term is a vector or a matrix.
     const vhValue& arrayGrade() const;
     vhValue& arrayGradeMutable();
+
+    // Arithmetic shared by vhVector and vhMatrix (array_arithmetic.cpp); the
+    // operators of the two classes check the operands and call these.
+    // The rules of + - * / ('+', '-', '*', '/') for a vector and a matrix on
+    // the left (vector.cpp, matrix.cpp).
+    vhValue vectorArithmetic(const vhValue& right, char op) const;
+    vhValue matrixArithmetic(const vhValue& right, char op) const;
+    static vhValue numericArray(int tag, unsigned int rows, unsigned int columns, bool complex, bool clearContent);
+    vhValue arrayOfOwnShape(const vhValue& scalar) const;
+    vhValue addSameShape(const vhValue& right, bool subtract) const;
+    vhValue scaleByScalar(const vhValue& right, bool divide) const;
+    vhValue matrixProduct(const vhValue& right) const;
+    vhValue dotProduct(const vhValue& right) const;
+    vhValue outerProduct(const vhValue& right) const;
+    bool sameShapeEqual(const vhValue& right) const;
+    vhValue copyAsMatrix() const;
 
     static bool m_matrixScalarMultiplicationAndDivisionOn;
 
