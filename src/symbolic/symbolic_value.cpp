@@ -1,11 +1,16 @@
 // Symbols and text strings: a named atom with an exponent and a chain of
-// multipliers that ends in the numeric coefficient.
+// multipliers that ends in the numeric coefficient. A product such as
+// 3*x^2*y is one atom; a sum of unlike atoms becomes an expression.
 
 #include "value/class_macros.h"
 #include "value/value.h"
 
+#include "symbolic/atom_internal.h"
+
 namespace VarnholtMath {
 namespace ValueTypes {
+
+using internal::expressionRoute;
 
 vhSymbolicValue::vhSymbolicValue() { m_valueType = tagSymbolicValue; }
 
@@ -28,60 +33,149 @@ vhSymbolicValue::vhSymbolicValue(const std::string& text, bool isString, const s
 
 vhSymbolicValue::vhSymbolicValue(const vhValue& v) : vhValue(v) {}
 
-// PENDING(symbolic atoms): the merge rules of symbols.
-vhValue vhSymbolicValue::operator+(const vhValue& other) const
-{
-    if (m_valueType != tagSymbolicValue)
-        return vhValue::operator+(other);
-    return vhValue();
-}
-
-vhValue vhSymbolicValue::operator-(const vhValue& other) const
-{
-    if (m_valueType != tagSymbolicValue)
-        return vhValue::operator-(other);
-    return vhValue();
-}
-
 vhValue vhSymbolicValue::operator*(const vhValue& other) const
 {
     if (m_valueType != tagSymbolicValue)
         return vhValue::operator*(other);
-    return vhValue();
+    // Text has no product.
+    if (isNull() || other.isNull() || m_stringValue || other.isString())
+        return vhValue();
+    const int t = other.valueType();
+    if (t > tagSymbolicValue)
+        return other * *this;
+    if (internal::isRealZero(other))
+        return vhInteger(0);
+    if (!internal::hasExponentAndMultiplier(*this))
+        return vhValue();
+    if (t < tagSymbolicValue) {
+        // An infinite factor swallows the symbol.
+        if (internal::isInfiniteDouble(other))
+            return *m_multiplier * other;
+        vhValue copy(*this);
+        if (!internal::multiplyIntoMultiplier(copy, other))
+            return vhValue();
+        return copy;
+    }
+    if (!internal::hasExponentAndMultiplier(other))
+        return vhValue();
+    return internal::sameTagAtomProduct(*this, other, m_sweepNullExponent);
 }
 
 vhValue vhSymbolicValue::operator/(const vhValue& other) const
 {
     if (m_valueType != tagSymbolicValue)
         return vhValue::operator/(other);
-    return vhValue();
+    if (isNull() || other.isNull() || m_stringValue || other.isString())
+        return vhValue();
+    const int t = other.valueType();
+    if (t <= tagSymbolicValue) {
+        if (internal::isNumberTag(t) && other.isZero())
+            return vhValue();
+        if (!internal::hasExponentAndMultiplier(*this))
+            return vhValue();
+        if (internal::isNumberTag(t)) {
+            vhValue copy(*this);
+            *copy.m_multiplier = *copy.m_multiplier / other;
+            if (copy.m_multiplier->isNull())
+                return vhValue();
+            return copy;
+        }
+        vhValue inverted(other);
+        inverted.invertExponent();
+        return *this * inverted;
+    }
+    if (t == tagSymbolicFunction || t == tagUnit) {
+        vhValue inverted(other);
+        inverted.invertExponent();
+        return inverted * *this;
+    }
+    if (internal::isArrayTag(t))
+        return internal::divideOverArray(*this, other);
+    if (t == tagFraction)
+        return vhFraction(*this * *other.denominator(), *other.numerator());
+    return increaseToType(other) / other;
+}
+
+namespace {
+
+// The common shape of + and - on a symbol or a string.
+vhValue symbolSum(const vhValue& self, const vhValue& other, bool subtract, bool selfIsString,
+                  const std::string& selfText, const std::string& otherText)
+{
+    const bool otherIsString = other.isString();
+    if (selfIsString && otherIsString && !subtract) {
+        // Text joins text; the formats are not carried over.
+        return vhSymbolicValue(selfText + otherText, true, std::vector<CharFormat>());
+    }
+    if (selfIsString || otherIsString)
+        return expressionRoute(self, other, subtract);
+    const int t = other.valueType();
+    if (internal::isAtomTag(t) && t != tagSymbolicValue)
+        return expressionRoute(self, other, subtract);
+    if (t > tagSymbolicValue) {
+        if (!subtract)
+            return other + self;
+        if (internal::isArrayTag(t))
+            return (other * vhInteger(-1)) + self;
+        return self.increaseToType(other) - other;
+    }
+    if (internal::isNumberTag(t)) {
+        if (t != tagComplex && other.isZero())
+            return self;
+        return expressionRoute(self, other, subtract);
+    }
+    return internal::sameTagAtomSum(self, other, subtract);
+}
+
+} // namespace
+
+vhValue vhSymbolicValue::operator+(const vhValue& other) const
+{
+    if (m_valueType != tagSymbolicValue)
+        return vhValue::operator+(other);
+    if (isNull() || other.isNull())
+        return vhValue();
+    return symbolSum(*this, other, false, m_stringValue, m_text, other.fullGrade().m_text);
+}
+
+vhValue vhSymbolicValue::operator-(const vhValue& other) const
+{
+    if (m_valueType != tagSymbolicValue)
+        return vhValue::operator-(other);
+    if (isNull() || other.isNull())
+        return vhValue();
+    return symbolSum(*this, other, true, m_stringValue, m_text, other.fullGrade().m_text);
 }
 
 bool vhSymbolicValue::operator==(const vhValue& other) const
 {
     if (m_valueType != tagSymbolicValue)
         return vhValue::operator==(other);
-    if (isNull() || other.isNull() || other.valueType() != tagSymbolicValue)
+    if (!m_stringValue && !other.isString()) {
+        const int t = other.valueType();
+        if (t > tagSymbolicValue)
+            return other == *this;
+        if (t < tagSymbolicValue || isNull() || other.isNull())
+            return false;
+        if (!exponent() || !other.exponent())
+            return false;
+        internal::FactorList mine, theirs;
+        internal::chainFactors(*this, mine);
+        internal::chainFactors(other, theirs);
+        if (mine.size() != theirs.size())
+            return false;
+        return internal::factorListsMatch(mine, theirs, true, true);
+    }
+    // Text equals text of the same characters and formats only.
+    if (!m_stringValue || isNull() || other.isNull())
         return false;
-    return m_text == other.m_text && m_stringValue == other.m_stringValue && m_charFormats == other.m_charFormats;
+    const vhValue& o = other.fullGrade();
+    return o.m_valueType == tagSymbolicValue && o.m_stringValue && o.m_charFormats == m_charFormats &&
+           o.m_text == m_text;
 }
 
 VH_DEFINE_COMPOUND_OPERATORS(vhSymbolicValue, tagSymbolicValue)
 VH_DEFINE_NOT_EQUAL(vhSymbolicValue, tagSymbolicValue)
-
-unsigned int vhValue::multipliers(std::vector<vhValue>& list) const
-{
-    list.push_back(*this);
-    return static_cast<unsigned int>(list.size());
-}
-
-unsigned int vhValue::symbolicMultipliers(std::vector<vhValue>& list) const
-{
-    list.clear();
-    return 0;
-}
-
-void vhValue::invertExponent() {}
 
 } // namespace ValueTypes
 } // namespace VarnholtMath
