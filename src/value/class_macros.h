@@ -10,32 +10,28 @@
     {                                                                                                \
         if (m_valueType != (TAG))                                                                    \
             return vhValue::operator+=(other);                                                       \
-        vhValue r = CLASS::operator+(other);                                                         \
-        *this = r;                                                                                   \
+        *this = CLASS::operator+(other);                                                            \
         return *this;                                                                                \
     }                                                                                                \
     vhValue& CLASS::operator-=(const vhValue& other)                                                 \
     {                                                                                                \
         if (m_valueType != (TAG))                                                                    \
             return vhValue::operator-=(other);                                                       \
-        vhValue r = CLASS::operator-(other);                                                         \
-        *this = r;                                                                                   \
+        *this = CLASS::operator-(other);                                                            \
         return *this;                                                                                \
     }                                                                                                \
     vhValue& CLASS::operator*=(const vhValue& other)                                                 \
     {                                                                                                \
         if (m_valueType != (TAG))                                                                    \
             return vhValue::operator*=(other);                                                       \
-        vhValue r = CLASS::operator*(other);                                                         \
-        *this = r;                                                                                   \
+        *this = CLASS::operator*(other);                                                            \
         return *this;                                                                                \
     }                                                                                                \
     vhValue& CLASS::operator/=(const vhValue& other)                                                 \
     {                                                                                                \
         if (m_valueType != (TAG))                                                                    \
             return vhValue::operator/=(other);                                                       \
-        vhValue r = CLASS::operator/(other);                                                         \
-        *this = r;                                                                                   \
+        *this = CLASS::operator/(other);                                                            \
         return *this;                                                                                \
     }
 

@@ -64,23 +64,41 @@ template <class F> bool withEqualityClass(const vhValue& v, F f)
 
 // --- dispatchers -------------------------------------------------------------
 
+// Arrays skip the temporary: their operators read only the record, and a
+// copy of a large array would cost more than the operation itself.
 vhValue vhValue::operator+(const vhValue& other) const
 {
+    if (m_valueType == tagVector)
+        return vectorArithmetic(other, '+');
+    if (m_valueType == tagMatrix)
+        return matrixArithmetic(other, '+');
     return withArithmeticClass(*this, [&](const vhValue& t) { return t + other; });
 }
 
 vhValue vhValue::operator-(const vhValue& other) const
 {
+    if (m_valueType == tagVector)
+        return vectorArithmetic(other, '-');
+    if (m_valueType == tagMatrix)
+        return matrixArithmetic(other, '-');
     return withArithmeticClass(*this, [&](const vhValue& t) { return t - other; });
 }
 
 vhValue vhValue::operator*(const vhValue& other) const
 {
+    if (m_valueType == tagVector)
+        return vectorArithmetic(other, '*');
+    if (m_valueType == tagMatrix)
+        return matrixArithmetic(other, '*');
     return withArithmeticClass(*this, [&](const vhValue& t) { return t * other; });
 }
 
 vhValue vhValue::operator/(const vhValue& other) const
 {
+    if (m_valueType == tagVector)
+        return vectorArithmetic(other, '/');
+    if (m_valueType == tagMatrix)
+        return matrixArithmetic(other, '/');
     return withArithmeticClass(*this, [&](const vhValue& t) { return t / other; });
 }
 
@@ -100,71 +118,61 @@ bool vhValue::operator!=(const vhValue& other) const { return !(*this == other);
 // and assign the result, which may change the tag.
 vhValue& vhValue::operator+=(const vhValue& other)
 {
-    vhValue r = *this + other;
-    *this = r;
+    *this = *this + other;
     return *this;
 }
 
 vhValue& vhValue::operator-=(const vhValue& other)
 {
-    vhValue r = *this - other;
-    *this = r;
+    *this = *this - other;
     return *this;
 }
 
 vhValue& vhValue::operator*=(const vhValue& other)
 {
-    vhValue r = *this * other;
-    *this = r;
+    *this = *this * other;
     return *this;
 }
 
 vhValue& vhValue::operator/=(const vhValue& other)
 {
-    vhValue r = *this / other;
-    *this = r;
+    *this = *this / other;
     return *this;
 }
 
 vhValue& vhValue::operator%=(const vhValue& other)
 {
-    vhValue r = *this % other;
-    *this = r;
+    *this = *this % other;
     return *this;
 }
 
 vhValue& vhValue::operator<<=(const vhValue& other)
 {
-    vhValue r = *this << other;
-    *this = r;
+    *this = *this << other;
     return *this;
 }
 
 vhValue& vhValue::operator>>=(const vhValue& other)
 {
-    vhValue r = *this >> other;
-    *this = r;
+    *this = *this >> other;
     return *this;
 }
 
 vhValue& vhValue::operator&=(const vhValue& other)
 {
-    vhValue r = *this & other;
-    *this = r;
+    *this = *this & other;
     return *this;
 }
 
 vhValue& vhValue::operator^=(const vhValue& other)
 {
-    vhValue r = *this ^ other;
-    *this = r;
+    *this = *this ^ other;
     return *this;
 }
 
 vhValue& vhValue::operator|=(const vhValue& other)
 {
-    vhValue r = *this | other;
-    *this = r;
+    *this = *this | other;
     return *this;
 }
 

@@ -65,6 +65,64 @@ vhValue::vhValue(const vhValue& other)
     setValue(other);
 }
 
+vhValue::vhValue(vhValue&& other) noexcept
+{
+    initFields();
+    takeContentFrom(other);
+}
+
+vhValue& vhValue::operator=(vhValue&& other) noexcept
+{
+    if (this == &other)
+        return *this;
+    if (other.m_valueType == tagNull) {
+        clear();
+        return *this;
+    }
+    if (other.m_valueType == tagVector && other.vectorSize() == 0) {
+        clear();
+        m_valueType = tagVector;
+        return *this;
+    }
+    // Through a fresh record, so that a source inside this value is emptied
+    // before the old content goes.
+    vhValue fresh(std::move(other));
+    swapRecord(fresh);
+    return *this;
+}
+
+void vhValue::takeContentFrom(vhValue& o)
+{
+    if (o.m_valueType == tagNull)
+        return;
+    if (o.m_valueType == tagVector && o.vectorSize() == 0) {
+        m_valueType = tagVector;
+        return;
+    }
+    swapRecord(o);
+    // What a copy leaves behind: elements belong to arrays and symbolic
+    // functions, storage and shape to arrays.
+    const bool array = m_valueType == tagVector || m_valueType == tagMatrix;
+    if (!array && m_valueType != tagSymbolicFunction)
+        m_elements.clear();
+    if (!array) {
+        std::free(m_numericData);
+        m_numericData = nullptr;
+        m_numericSize = 0;
+        std::free(m_imageData);
+        m_imageData = nullptr;
+        m_imageSize = 0;
+        m_rows = m_columns = 0;
+        m_rowNames.clear();
+        m_columnNames.clear();
+    } else {
+        if (m_rowNames.size() != m_rows)
+            m_rowNames.clear();
+        if (m_columnNames.size() != m_columns)
+            m_columnNames.clear();
+    }
+}
+
 vhValue::vhValue(std::string objectTypeName, void* objectPointer)
 {
     initFields();

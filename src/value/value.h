@@ -55,6 +55,10 @@ class VH_EXPORT vhValue {
 public:
     vhValue();
     vhValue(const vhValue& other);
+    // Moving gives the same value as copying, without copying the blocks;
+    // the source is left holding some valid value.
+    vhValue(vhValue&& other) noexcept;
+    vhValue& operator=(vhValue&& other) noexcept;
     vhValue(std::string objectTypeName, void* objectPointer);
 
     // --- virtual operations, in their fixed slot order -------------------
@@ -375,6 +379,9 @@ protected:
     void initFields();
     void swapRecord(vhValue& other);
     void copyContentFrom(const vhValue& other);
+    // Takes over the content of other into this fresh record, keeping only
+    // what a copy would keep.
+    void takeContentFrom(vhValue& other);
     // Storage for the current flags, as allocateMatrix, but fresh: old content
     // is dropped, and with clearContent false the numbers are left unset for
     // a caller that overwrites them all.
