@@ -157,6 +157,26 @@ bool factorListsMatch(const FactorList& first, const FactorList& second, bool co
     return true;
 }
 
+vhValue atomSum(const vhValue& self, const vhValue& other, bool subtract, int ownTag)
+{
+    const int t = other.valueType();
+    if (isAtomTag(t) && t != ownTag)
+        return expressionRoute(self, other, subtract);
+    if (t > ownTag) {
+        if (!subtract)
+            return other + self;
+        if (isArrayTag(t))
+            return (other * vhInteger(-1)) + self;
+        return self.increaseToType(other) - other;
+    }
+    if (isNumberTag(t)) {
+        if (t != tagComplex && other.isZero())
+            return self;
+        return expressionRoute(self, other, subtract);
+    }
+    return sameTagAtomSum(self, other, subtract);
+}
+
 vhValue expressionRoute(const vhValue& self, const vhValue& other, bool subtract)
 {
     if (self.temp() || other.temp())

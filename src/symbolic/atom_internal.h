@@ -104,6 +104,12 @@ vhValue sameTagAtomProduct(const vhValue& self, const vhValue& other, bool sweep
 // atoms are equal but for them, anything else goes the expression route.
 vhValue sameTagAtomSum(const vhValue& self, const vhValue& other, bool subtract);
 
+// The sum of an atom of tag ownTag (a symbol or a unit) with any value other
+// than a string: unlike atoms and complex numbers take the expression route,
+// a richer right operand takes the operation over, a real zero changes
+// nothing, and atoms of the same tag merge by sameTagAtomSum.
+vhValue atomSum(const vhValue& self, const vhValue& other, bool subtract, int ownTag);
+
 // self / element for each element of an array, in a copy of the array.
 vhValue divideOverArray(const vhValue& self, const vhValue& array);
 

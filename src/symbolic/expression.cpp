@@ -132,10 +132,8 @@ template <class Move> bool cleanTerms(std::vector<vhValue>& terms, Move move)
 
 } // namespace
 
-vhValue vhExpression::operator+(const vhValue& other) const
+vhValue vhExpression::sumWith(const vhValue& other, bool subtract) const
 {
-    if (m_valueType != tagExpression)
-        return vhValue::operator+(other);
     auto move = [](vhValue& dst, vhValue& src) { dst.swapRecord(src); };
     if (other.valueType() <= tagMatrix && other.isNull())
         return vhValue();
@@ -143,13 +141,13 @@ vhValue vhExpression::operator+(const vhValue& other) const
         return *this;
     vhExpression wrapped(other);
     if (isNull())
-        return wrapped;
+        return subtract ? wrapped * vhInteger(-1) : vhValue(wrapped);
     if (wrapped.isNull())
         return *this;
     std::vector<vhValue> terms;
     terms.reserve(m_expressionValues.size() + wrapped.m_expressionValues.size());
     terms = m_expressionValues;
-    if (!addTerms(terms, wrapped.m_expressionValues, false, move) || !cleanTerms(terms, move))
+    if (!addTerms(terms, wrapped.m_expressionValues, subtract, move) || !cleanTerms(terms, move))
         return vhValue();
     if (terms.empty())
         return vhInteger(0);
@@ -160,32 +158,18 @@ vhValue vhExpression::operator+(const vhValue& other) const
     return result;
 }
 
+vhValue vhExpression::operator+(const vhValue& other) const
+{
+    if (m_valueType != tagExpression)
+        return vhValue::operator+(other);
+    return sumWith(other, false);
+}
+
 vhValue vhExpression::operator-(const vhValue& other) const
 {
     if (m_valueType != tagExpression)
         return vhValue::operator-(other);
-    auto move = [](vhValue& dst, vhValue& src) { dst.swapRecord(src); };
-    if (other.valueType() <= tagMatrix && other.isNull())
-        return vhValue();
-    if (other.isZero())
-        return *this;
-    vhExpression wrapped(other);
-    if (isNull())
-        return wrapped * vhInteger(-1);
-    if (wrapped.isNull())
-        return *this;
-    std::vector<vhValue> terms;
-    terms.reserve(m_expressionValues.size() + wrapped.m_expressionValues.size());
-    terms = m_expressionValues;
-    if (!addTerms(terms, wrapped.m_expressionValues, true, move) || !cleanTerms(terms, move))
-        return vhValue();
-    if (terms.empty())
-        return vhInteger(0);
-    if (terms.size() == 1)
-        return terms[0];
-    vhExpression result;
-    result.m_expressionValues.swap(terms);
-    return result;
+    return sumWith(other, true);
 }
 
 vhValue vhExpression::operator*(const vhValue& other) const

@@ -109,22 +109,7 @@ vhValue symbolSum(const vhValue& self, const vhValue& other, bool subtract, bool
     }
     if (selfIsString || otherIsString)
         return expressionRoute(self, other, subtract);
-    const int t = other.valueType();
-    if (internal::isAtomTag(t) && t != tagSymbolicValue)
-        return expressionRoute(self, other, subtract);
-    if (t > tagSymbolicValue) {
-        if (!subtract)
-            return other + self;
-        if (internal::isArrayTag(t))
-            return (other * vhInteger(-1)) + self;
-        return self.increaseToType(other) - other;
-    }
-    if (internal::isNumberTag(t)) {
-        if (t != tagComplex && other.isZero())
-            return self;
-        return expressionRoute(self, other, subtract);
-    }
-    return internal::sameTagAtomSum(self, other, subtract);
+    return internal::atomSum(self, other, subtract, tagSymbolicValue);
 }
 
 } // namespace

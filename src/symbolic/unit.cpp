@@ -40,22 +40,7 @@ vhValue unitSum(const vhValue& self, const vhValue& other, bool subtract)
 {
     if (other.isString())
         return expressionRoute(self, other, subtract);
-    const int t = other.valueType();
-    if (internal::isAtomTag(t) && t != tagUnit)
-        return expressionRoute(self, other, subtract);
-    if (t > tagUnit) {
-        if (!subtract)
-            return other + self;
-        if (internal::isArrayTag(t))
-            return (other * vhInteger(-1)) + self;
-        return self.increaseToType(other) - other;
-    }
-    if (internal::isNumberTag(t)) {
-        if (t != tagComplex && other.isZero())
-            return self;
-        return expressionRoute(self, other, subtract);
-    }
-    return internal::sameTagAtomSum(self, other, subtract);
+    return internal::atomSum(self, other, subtract, tagUnit);
 }
 
 } // namespace

@@ -636,6 +636,10 @@ public:
     VH_VALUE_ARITHMETIC_OVERRIDES
     std::vector<vhValue> factorize() const override;
     std::vector<vhValue> simplify() const override;
+
+private:
+    // The walk of + and -: each term of other joins the sum.
+    vhValue sumWith(const vhValue& other, bool subtract) const;
 };
 
 class VH_EXPORT vhFraction : public vhValue {
