@@ -6,6 +6,7 @@
 // takes vhValue arguments and returns a vhValue, the undefined value on any
 // failure. The members live in the source files of their subsystems.
 
+#include <cstdint>
 #include <vector>
 
 #include "frame/catalogue.h"
@@ -19,9 +20,9 @@ namespace ValueTypes {
 // Unit of angles in the arguments and results of trigonometric functions.
 // The conversions test for exactly 0 and exactly 2, so any other number
 // behaves as radians.
-enum AngleUnit { angleDegrees = 0, angleRadians = 1, angleGradians = 2 };
+enum AngleUnit : std::int32_t { angleDegrees = 0, angleRadians = 1, angleGradians = 2 };
 
-enum MathUnitSystem { unitSystemSI = 0, unitSystemUSCS = 1 };
+enum MathUnitSystem : std::int32_t { unitSystemSI = 0, unitSystemUSCS = 1 };
 
 class VH_EXPORT vhMath {
 public:

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <cstdint>
+
 namespace VarnholtMath {
 namespace ValueTypes {
 
 // The number of every operator, constant, function and statement of the
 // worksheet language. The numbers are part of the interface: hosts store them
 // and symbolic function values keep them, so they never change.
-enum NodeType {
+enum NodeType : std::int32_t {
     nt_vector = 5,
     nt_vectorr = 6,
     nt_matrix = 7,

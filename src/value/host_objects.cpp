@@ -96,9 +96,9 @@ void vhValue::add_method(const std::string& name, unsigned int argumentCount, ..
     va_end(args);
     if (isNull() || name.empty() || !function)
         return;
-    // A name may stand once with a given non-zero count.
+    // A name that stands with a non-zero count is not registered again.
     for (std::size_t i = 0; i < m_methodNames.size(); ++i)
-        if (m_methodNames[i] == name && m_methodArgumentCounts[i] != 0 && m_methodArgumentCounts[i] == argumentCount)
+        if (m_methodNames[i] == name && m_methodArgumentCounts[i] != 0)
             return;
     m_methodNames.push_back(name);
     m_methodArgumentCounts.push_back(argumentCount);
@@ -126,28 +126,30 @@ typedef vhValue V;
 typedef V* P;
 
 // Calls a host method that takes the object's own value and up to ten
-// values; the values are copies that the method may change freely.
-vhValue callMethod(void* f, vhValue* self, std::vector<vhValue>& a)
+// values. Each argument is copied once, into the method's parameter, so the
+// method may change its copy freely.
+vhValue callMethod(void* f, vhValue* self, const std::vector<const vhValue*>& a)
 {
     switch (a.size()) {
     case 0: return reinterpret_cast<V (*)(P)>(f)(self);
-    case 1: return reinterpret_cast<V (*)(P, V)>(f)(self, a[0]);
-    case 2: return reinterpret_cast<V (*)(P, V, V)>(f)(self, a[0], a[1]);
-    case 3: return reinterpret_cast<V (*)(P, V, V, V)>(f)(self, a[0], a[1], a[2]);
-    case 4: return reinterpret_cast<V (*)(P, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3]);
-    case 5: return reinterpret_cast<V (*)(P, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4]);
-    case 6: return reinterpret_cast<V (*)(P, V, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4], a[5]);
+    case 1: return reinterpret_cast<V (*)(P, V)>(f)(self, *a[0]);
+    case 2: return reinterpret_cast<V (*)(P, V, V)>(f)(self, *a[0], *a[1]);
+    case 3: return reinterpret_cast<V (*)(P, V, V, V)>(f)(self, *a[0], *a[1], *a[2]);
+    case 4: return reinterpret_cast<V (*)(P, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3]);
+    case 5: return reinterpret_cast<V (*)(P, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4]);
+    case 6: return reinterpret_cast<V (*)(P, V, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4], *a[5]);
     case 7:
-        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4], a[5], a[6]);
+        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4], *a[5],
+                                                                   *a[6]);
     case 8:
-        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4], a[5], a[6],
-                                                                      a[7]);
+        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4], *a[5],
+                                                                      *a[6], *a[7]);
     case 9:
-        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4], a[5],
-                                                                         a[6], a[7], a[8]);
+        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4],
+                                                                         *a[5], *a[6], *a[7], *a[8]);
     case 10:
-        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V, V, V)>(f)(self, a[0], a[1], a[2], a[3], a[4], a[5],
-                                                                            a[6], a[7], a[8], a[9]);
+        return reinterpret_cast<V (*)(P, V, V, V, V, V, V, V, V, V, V)>(f)(self, *a[0], *a[1], *a[2], *a[3], *a[4],
+                                                                            *a[5], *a[6], *a[7], *a[8], *a[9]);
     default: return vhValue();
     }
 }
@@ -205,11 +207,12 @@ vhValue vhValue::call(unsigned int n, ...)
     }
     if (!function)
         return vhValue();
-    std::vector<vhValue> copies;
-    copies.reserve(pointers.size());
-    for (const vhValue* p : pointers)
-        copies.push_back(p ? *p : vhValue());
-    return callMethod(function, m_mthis, copies);
+    // A missing argument counts as the undefined value.
+    static const vhValue undefinedArgument;
+    for (const vhValue*& p : pointers)
+        if (!p)
+            p = &undefinedArgument;
+    return callMethod(function, m_mthis, pointers);
 }
 
 std::uint64_t vhValue::call_ptr(unsigned int n, ...)

@@ -682,6 +682,8 @@ bool vhValue::isRowVector() const
 
 bool vhValue::isSymbolic() const
 {
+    if (isNull())
+        return false;
     switch (m_valueType) {
     case tagSymbolicValue:
         // A text string is not symbolic.

@@ -371,9 +371,6 @@ public:
     vhValue arrangeExponentsForFirstSymbolConst(bool onlyOneSymbol) const;
 
 protected:
-    // Tag of the class whose operators a value of the given tag runs; the
-    // dispatcher copies the left operand into a temporary of that class.
-    static vhValue* makeTemporaryOfTag(const vhValue& v);
     // Frees every owned block and resets all fields; keeps the sweep flag.
     void freeContent();
     void initFields();

@@ -33,6 +33,9 @@ TEST(CalculationObject, DefaultsAndSettings)
     vhMath clamped(99, angleDegrees);
     EXPECT_EQ(clamped.numberOfDecimalPlaces(), 14u);
     EXPECT_EQ(clamped.angleUnit(), angleDegrees);
+    // Any unit number is stored as it is; only 0 and 2 convert.
+    vhMath other(14, static_cast<AngleUnit>(4));
+    EXPECT_EQ(static_cast<int>(other.angleUnit()), 4);
 }
 
 TEST(CalculationObject, RuleSwitchesWriteFieldAndProcess)

@@ -260,6 +260,7 @@ TEST(ValueRecord, Predicates)
     EXPECT_TRUE(vhVector(std::vector<vhValue>{vhInteger(1), sym("x")}, true).isSymbolic());
     EXPECT_FALSE(vhVector(3, true, true, false).isSymbolic());
     EXPECT_TRUE(vhFraction(vhInteger(1), sym("x")).isSymbolic());
+    EXPECT_FALSE(vhFraction(vhDouble(std::nan("")), sym("x")).isSymbolic());
     EXPECT_TRUE(vhVector().isVector());
     double data[] = {1, 2};
     vhMatrix row(data, 1, 2);
@@ -356,4 +357,7 @@ TEST(ValueRecord, HostObjectMembersAndMethods)
     EXPECT_TRUE(object.call(1, &name).isNull());
     vhValue unknown = str("thrice");
     EXPECT_TRUE(object.call(2, &unknown, &arg).isNull());
+    // A name that stands with a count is not registered again, whatever count.
+    object.add_method("twice", 2, reinterpret_cast<void*>(&Methods::twice));
+    EXPECT_TRUE(object.call(3, &name, &arg, &arg).isNull());
 }
