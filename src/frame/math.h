@@ -84,6 +84,11 @@ public:
     vhValue setStaticValue_f(const vhValue& name, const vhValue& value);
     vhValue joinMatrixRows_f(const vhValue& a, const vhValue& b);
 
+    // --- equations and intervals ---
+    vhValue equation_f(const vhValue& left, const vhValue& type, const vhValue& right);
+    vhValue interval_f(const vhValue& start, const vhValue& startIncluded, const vhValue& end,
+                       const vhValue& endIncluded);
+
     // --- elementwise functions ---------------------------------------------------
     // Trigonometric functions read the angle unit in their arguments, their
     // inverses give results in it. tan_f and cot_f set convertResultsToRadians

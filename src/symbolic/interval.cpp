@@ -1,5 +1,7 @@
 // Real intervals and infinite solution sets first + k * step.
 
+#include <cmath>
+
 #include "value/class_macros.h"
 #include "value/value.h"
 
@@ -8,13 +10,29 @@ namespace ValueTypes {
 
 vhInterval::vhInterval() { m_valueType = tagInterval; }
 
+namespace {
+// A bound that is all but a whole number is taken as that number, away from
+// zero, so that rounding noise of a solver does not move an interval's end.
+double snapBound(double x)
+{
+    if (x == 0.0 || !(std::fabs(x) < 4503599627370496.0))
+        return x;
+    if (x > 0.0) {
+        const double c = std::ceil(x);
+        return c - x < 1e-14 ? c : x;
+    }
+    const double f = std::floor(x);
+    return x - f < 1e-14 ? f : x;
+}
+} // namespace
+
 vhInterval::vhInterval(double start, bool startIncluded, double end, bool endIncluded)
 {
     m_valueType = tagInterval;
     m_undefined = false;
-    m_intervalStart = start;
+    m_intervalStart = snapBound(start);
     m_intervalStartIncuded = startIncluded;
-    m_intervalEnd = end;
+    m_intervalEnd = snapBound(end);
     m_intervalEndIncluded = endIncluded;
 }
 
@@ -26,9 +44,14 @@ bool vhInterval::operator==(const vhValue& other) const
         return vhValue::operator==(other);
     if (isNull() || other.isNull() || other.valueType() != tagInterval)
         return false;
-    return m_intervalStart == other.intervalStart() && m_intervalEnd == other.intervalEnd() &&
-           m_intervalStartIncuded == other.intervalStartIncuded() &&
-           m_intervalEndIncluded == other.intervalEndIncluded();
+    if (m_intervalStartIncuded != other.intervalStartIncuded() ||
+        m_intervalEndIncluded != other.intervalEndIncluded())
+        return false;
+    if (m_intervalStart == other.intervalStart() && m_intervalEnd == other.intervalEnd())
+        return true;
+    // Bounds that differ by rounding noise only are the same bounds.
+    return std::fabs(m_intervalStart - other.intervalStart()) < 1e-14 &&
+           std::fabs(m_intervalEnd - other.intervalEnd()) < 1e-14;
 }
 
 VH_DEFINE_NOT_EQUAL(vhInterval, tagInterval)

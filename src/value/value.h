@@ -651,7 +651,14 @@ class VH_EXPORT vhEquation : public vhValue {
 public:
     vhEquation();
     vhEquation(const vhValue& v);
+    // Each side becomes an expression; an empty relation leaves the value
+    // null. The relation is kept as it comes ("=", "<", "<=", "=<", ...).
+    vhEquation(const vhValue& left, const std::string& equationType, const vhValue& right);
     VH_VALUE_ARITHMETIC_OVERRIDES
+
+private:
+    // Both sides take opposite operations: left op v, right inverse-op v.
+    vhValue sidesWith(const vhValue& v, char op) const;
 };
 
 class VH_EXPORT vhInterval : public vhValue {
