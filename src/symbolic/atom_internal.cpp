@@ -157,6 +157,23 @@ bool factorListsMatch(const FactorList& first, const FactorList& second, bool co
     return true;
 }
 
+bool atomEqual(const vhValue& self, const vhValue& other, int ownTag, bool compareFormats)
+{
+    const int t = other.valueType();
+    if (t > ownTag)
+        return other == self;
+    if (t < ownTag || self.isNull() || other.isNull())
+        return false;
+    if (!self.exponent() || !other.exponent())
+        return false;
+    FactorList mine, theirs;
+    chainFactors(self, mine);
+    chainFactors(other, theirs);
+    if (mine.size() != theirs.size())
+        return false;
+    return factorListsMatch(mine, theirs, compareFormats, true);
+}
+
 vhValue atomSum(const vhValue& self, const vhValue& other, bool subtract, int ownTag)
 {
     const int t = other.valueType();

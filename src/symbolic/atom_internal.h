@@ -110,6 +110,11 @@ vhValue sameTagAtomSum(const vhValue& self, const vhValue& other, bool subtract)
 // nothing, and atoms of the same tag merge by sameTagAtomSum.
 vhValue atomSum(const vhValue& self, const vhValue& other, bool subtract, int ownTag);
 
+// Equality of an atom of tag ownTag with any value: a richer right operand
+// decides, a poorer one is unequal, and two atoms match factor by factor,
+// coefficient included (with or without the character formats).
+bool atomEqual(const vhValue& self, const vhValue& other, int ownTag, bool compareFormats);
+
 // self / element for each element of an array, in a copy of the array.
 vhValue divideOverArray(const vhValue& self, const vhValue& array);
 

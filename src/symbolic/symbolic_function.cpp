@@ -340,19 +340,7 @@ bool vhSymbolicFunction::operator==(const vhValue& other) const
 {
     if (m_valueType != tagSymbolicFunction)
         return vhValue::operator==(other);
-    const int t = other.valueType();
-    if (t > tagSymbolicFunction)
-        return other == *this;
-    if (t < tagSymbolicFunction || isNull() || other.isNull())
-        return false;
-    if (!exponent() || !other.exponent())
-        return false;
-    internal::FactorList mine, theirs;
-    internal::chainFactors(*this, mine);
-    internal::chainFactors(other, theirs);
-    if (mine.size() != theirs.size())
-        return false;
-    return internal::factorListsMatch(mine, theirs, true, true);
+    return internal::atomEqual(*this, other, tagSymbolicFunction, true);
 }
 
 VH_DEFINE_COMPOUND_OPERATORS(vhSymbolicFunction, tagSymbolicFunction)

@@ -136,21 +136,8 @@ bool vhSymbolicValue::operator==(const vhValue& other) const
 {
     if (m_valueType != tagSymbolicValue)
         return vhValue::operator==(other);
-    if (!m_stringValue && !other.isString()) {
-        const int t = other.valueType();
-        if (t > tagSymbolicValue)
-            return other == *this;
-        if (t < tagSymbolicValue || isNull() || other.isNull())
-            return false;
-        if (!exponent() || !other.exponent())
-            return false;
-        internal::FactorList mine, theirs;
-        internal::chainFactors(*this, mine);
-        internal::chainFactors(other, theirs);
-        if (mine.size() != theirs.size())
-            return false;
-        return internal::factorListsMatch(mine, theirs, true, true);
-    }
+    if (!m_stringValue && !other.isString())
+        return internal::atomEqual(*this, other, tagSymbolicValue, true);
     // Text equals text of the same characters and formats only.
     if (!m_stringValue || isNull() || other.isNull())
         return false;

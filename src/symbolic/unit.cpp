@@ -129,20 +129,8 @@ bool vhUnit::operator==(const vhValue& other) const
 {
     if (m_valueType != tagUnit)
         return vhValue::operator==(other);
-    const int t = other.valueType();
-    if (t > tagUnit)
-        return other == *this;
-    if (t < tagUnit || isNull() || other.isNull())
-        return false;
-    if (!exponent() || !other.exponent())
-        return false;
     // Symbol, exponent and multiplier, factor by factor.
-    internal::FactorList mine, theirs;
-    internal::chainFactors(*this, mine);
-    internal::chainFactors(other, theirs);
-    if (mine.size() != theirs.size())
-        return false;
-    return internal::factorListsMatch(mine, theirs, false, true);
+    return internal::atomEqual(*this, other, tagUnit, false);
 }
 
 VH_DEFINE_COMPOUND_OPERATORS(vhUnit, tagUnit)
