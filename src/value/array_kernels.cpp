@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "value/array_kernels.h"
+#include "value/dense_kernels.h"
 #include "value/value_internal.h"
 
 namespace VarnholtMath {
@@ -16,6 +17,22 @@ double elementProduct(double x, double y)
     if (double(a) == x && double(b) == y)
         return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) * static_cast<std::uint32_t>(b));
     return x * y;
+}
+
+void conjugateAll(vhValue& array)
+{
+    if (double* im = array.numericImValues()) {
+        dense::negate(im, im, array.vectorSize());
+        return;
+    }
+    if (array.numericValues() || array.isImage())
+        return;
+    const unsigned int n = array.vectorSize();
+    for (unsigned int i = 0; i < n; ++i) {
+        vhValue* e = array.get_vector_index_address(i);
+        if (e && e->isComplex())
+            *e = vhComplex(e->complexRe(), -e->complexIm());
+    }
 }
 
 vhValue elementwise(const vhValue& a, const vhValue& b, bool divide)

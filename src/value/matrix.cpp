@@ -233,15 +233,7 @@ vhValue vhMatrix::conjugateTranspose() const
     vhValue result = transpose();
     if (result.isNull())
         return result;
-    if (result.m_numeric) {
-        if (result.m_numericComplex)
-            dense::negate(result.m_numericData + result.m_numericSize, result.m_numericData + result.m_numericSize,
-                          result.m_numericSize);
-    } else if (!result.m_image) {
-        for (vhValue& e : result.m_elements)
-            if (e.isComplex())
-                e = vhComplex(e.complexRe(), -e.complexIm());
-    }
+    conjugateAll(result);
     return result;
 }
 

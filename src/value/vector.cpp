@@ -211,15 +211,7 @@ vhValue vhVector::transpose() const
 vhValue vhVector::conjugateTranspose() const
 {
     vhValue result = transpose();
-    if (result.m_numeric) {
-        if (result.m_numericComplex && result.m_numericData)
-            dense::negate(result.m_numericData + result.m_numericSize, result.m_numericData + result.m_numericSize,
-                          result.m_numericSize);
-    } else if (!result.m_image) {
-        for (vhValue& e : result.m_elements)
-            if (e.isComplex())
-                e = vhComplex(e.complexRe(), -e.complexIm());
-    }
+    conjugateAll(result);
     return result;
 }
 
