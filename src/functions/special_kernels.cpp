@@ -1095,6 +1095,9 @@ double dawsonPositive(double x) {
 
 std::complex<double> struve(double nu, double x) {
     if (std::isnan(nu) || std::isnan(x) || std::isinf(nu)) return kCNaN;
+    // Orders this far out are beyond the double range of every term, and
+    // the Bessel functions of the asymptotic form cannot take them.
+    if (std::fabs(nu) > 1e5) return kCNaN;
     double h;
     if (x == 0.0) return {struveAtZero(nu), 0.0};
     if (std::isinf(x)) h = struveAtInfinity(nu);

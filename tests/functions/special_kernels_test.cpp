@@ -105,6 +105,9 @@ TEST(SpecialKernels, StruveEdgeValues) {
     EXPECT_EQ(struve(2.5, 0.0), cd(0.0, 0.0));
     EXPECT_DOUBLE_EQ(struve(-1.0, 0.0).real(), 2.0 / M_PI);
     EXPECT_TRUE(std::isinf(struve(-1.3, 0.0).real()));
+    // Orders beyond the reach of double precision have no value.
+    EXPECT_TRUE(std::isnan(struve(-2147483648.0, 3.0).real()));
+    EXPECT_TRUE(std::isnan(struve(1e6, 3.0).real()));
     // limits at infinity: 0 below order 1, 2/pi at 1, infinite above
     EXPECT_EQ(struve(0.5, kInf).real(), 0.0);
     EXPECT_DOUBLE_EQ(struve(1.0, kInf).real(), 2.0 / M_PI);
