@@ -157,6 +157,15 @@ bool factorListsMatch(const FactorList& first, const FactorList& second, bool co
     return true;
 }
 
+vhValue coefficientOver(const vhValue& atom, const vhValue& number)
+{
+    vhValue copy(atom);
+    *copy.multiplier() = *copy.multiplier() / number;
+    if (copy.multiplier()->isNull())
+        return vhValue();
+    return copy;
+}
+
 bool atomEqual(const vhValue& self, const vhValue& other, int ownTag, bool compareFormats)
 {
     const int t = other.valueType();

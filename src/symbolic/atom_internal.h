@@ -110,6 +110,10 @@ vhValue sameTagAtomSum(const vhValue& self, const vhValue& other, bool subtract)
 // nothing, and atoms of the same tag merge by sameTagAtomSum.
 vhValue atomSum(const vhValue& self, const vhValue& other, bool subtract, int ownTag);
 
+// A copy of an atom whose coefficient is divided by a number; undefined when
+// the quotient is.
+vhValue coefficientOver(const vhValue& atom, const vhValue& number);
+
 // Equality of an atom of tag ownTag with any value: a richer right operand
 // decides, a poorer one is unequal, and two atoms match factor by factor,
 // coefficient included (with or without the character formats).

@@ -312,13 +312,8 @@ vhValue vhSymbolicFunction::operator/(const vhValue& other) const
             if (internal::trigonometricQuotient(*this, other, rewritten))
                 return rewritten;
         }
-        if (internal::isNumberTag(t)) {
-            vhValue copy(*this);
-            *copy.m_multiplier = *copy.m_multiplier / other;
-            if (copy.m_multiplier->isNull())
-                return vhValue();
-            return copy;
-        }
+        if (internal::isNumberTag(t))
+            return internal::coefficientOver(*this, other);
         vhValue inverted(other);
         inverted.invertExponent();
         return *this * inverted;

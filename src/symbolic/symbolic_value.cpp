@@ -73,13 +73,8 @@ vhValue vhSymbolicValue::operator/(const vhValue& other) const
             return vhValue();
         if (!internal::hasExponentAndMultiplier(*this))
             return vhValue();
-        if (internal::isNumberTag(t)) {
-            vhValue copy(*this);
-            *copy.m_multiplier = *copy.m_multiplier / other;
-            if (copy.m_multiplier->isNull())
-                return vhValue();
-            return copy;
-        }
+        if (internal::isNumberTag(t))
+            return internal::coefficientOver(*this, other);
         vhValue inverted(other);
         inverted.invertExponent();
         return *this * inverted;

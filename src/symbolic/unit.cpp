@@ -107,11 +107,9 @@ vhValue vhUnit::operator/(const vhValue& other) const
         if (!internal::hasExponentAndMultiplier(*this))
             return vhValue();
         if (internal::isNumberTag(t)) {
-            vhValue copy(*this);
-            *copy.m_multiplier = *copy.m_multiplier / other;
-            if (copy.m_multiplier->isNull())
-                return vhValue();
-            clampTemperature(m_text, *copy.m_multiplier);
+            vhValue copy = internal::coefficientOver(*this, other);
+            if (!copy.isNull())
+                clampTemperature(m_text, *copy.multiplier());
             return copy;
         }
         vhValue inverted(other);
