@@ -157,6 +157,21 @@ bool factorListsMatch(const FactorList& first, const FactorList& second, bool co
     return true;
 }
 
+vhValue atomOverRicher(const vhValue& self, const vhValue& other)
+{
+    const int t = other.valueType();
+    if (isAtomTag(t)) {
+        vhValue inverted(other);
+        inverted.invertExponent();
+        return inverted * self;
+    }
+    if (isArrayTag(t))
+        return divideOverArray(self, other);
+    if (t == tagFraction)
+        return vhFraction(self * *other.denominator(), *other.numerator());
+    return self.increaseToType(other) / other;
+}
+
 vhValue coefficientOver(const vhValue& atom, const vhValue& number)
 {
     vhValue copy(atom);

@@ -122,6 +122,11 @@ bool atomEqual(const vhValue& self, const vhValue& other, int ownTag, bool compa
 // self / element for each element of an array, in a copy of the array.
 vhValue divideOverArray(const vhValue& self, const vhValue& array);
 
+// An atom divided by a value of a richer tag: a richer atom is inverted and
+// multiplied, an array is divided element by element, a fraction turns
+// over, and anything else lifts the atom to its tag first.
+vhValue atomOverRicher(const vhValue& self, const vhValue& other);
+
 // A held function of the given number and arguments, or null when the count
 // of arguments is not the catalogue's: the operators never throw.
 vhValue makeFunction(int functionID, const std::vector<vhValue>& arguments);

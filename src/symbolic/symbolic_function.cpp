@@ -319,16 +319,7 @@ vhValue vhSymbolicFunction::operator/(const vhValue& other) const
         return *this * inverted;
     }
     // A unit divides as the other atoms do: times its reciprocal.
-    if (t == tagUnit) {
-        vhValue inverted(other);
-        inverted.invertExponent();
-        return inverted * *this;
-    }
-    if (internal::isArrayTag(t))
-        return internal::divideOverArray(*this, other);
-    if (t == tagFraction)
-        return vhFraction(*this * *other.denominator(), *other.numerator());
-    return increaseToType(other) / other;
+    return internal::atomOverRicher(*this, other);
 }
 
 bool vhSymbolicFunction::operator==(const vhValue& other) const

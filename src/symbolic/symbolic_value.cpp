@@ -79,16 +79,7 @@ vhValue vhSymbolicValue::operator/(const vhValue& other) const
         inverted.invertExponent();
         return *this * inverted;
     }
-    if (t == tagSymbolicFunction || t == tagUnit) {
-        vhValue inverted(other);
-        inverted.invertExponent();
-        return inverted * *this;
-    }
-    if (internal::isArrayTag(t))
-        return internal::divideOverArray(*this, other);
-    if (t == tagFraction)
-        return vhFraction(*this * *other.denominator(), *other.numerator());
-    return increaseToType(other) / other;
+    return internal::atomOverRicher(*this, other);
 }
 
 namespace {

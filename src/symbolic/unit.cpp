@@ -116,11 +116,7 @@ vhValue vhUnit::operator/(const vhValue& other) const
         inverted.invertExponent();
         return *this * inverted;
     }
-    if (internal::isArrayTag(t))
-        return internal::divideOverArray(*this, other);
-    if (t == tagFraction)
-        return vhFraction(*this * *other.denominator(), *other.numerator());
-    return increaseToType(other) / other;
+    return internal::atomOverRicher(*this, other);
 }
 
 bool vhUnit::operator==(const vhValue& other) const

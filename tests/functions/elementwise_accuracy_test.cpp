@@ -35,16 +35,7 @@ double parse(const std::string& cell) { return std::strtod(cell.c_str(), nullptr
 std::vector<Point> readReference(const std::string& file)
 {
     std::vector<Point> points;
-    std::ifstream in(std::string(VH_TEST_DATA_DIR) + "/functions/data/" + file);
-    std::string line;
-    while (std::getline(in, line)) {
-        if (line.empty() || line[0] == '#')
-            continue;
-        std::vector<std::string> cells;
-        std::stringstream row(line);
-        std::string cell;
-        while (std::getline(row, cell, ','))
-            cells.push_back(cell);
+    for (const std::vector<std::string>& cells : readCsv(file)) {
         if (cells.size() != 9)
             continue;
         Point p;

@@ -3,7 +3,9 @@
 // The members of the elementwise and special families with their catalogue
 // numbers, for the tests that run over all of them.
 
+#include <fstream>
 #include <functional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -12,6 +14,28 @@
 namespace elementwise_tests {
 
 using namespace VarnholtMath::ValueTypes;
+
+// The rows of a reference table under tests/functions/data, split at commas;
+// comment lines start with '#', and a trailing comma gives an empty cell.
+inline std::vector<std::vector<std::string>> readCsv(const std::string& file)
+{
+    std::vector<std::vector<std::string>> rows;
+    std::ifstream in(std::string(VH_TEST_DATA_DIR) + "/functions/data/" + file);
+    std::string line;
+    while (std::getline(in, line)) {
+        if (line.empty() || line[0] == '#')
+            continue;
+        std::vector<std::string> cells;
+        std::stringstream row(line);
+        std::string cell;
+        while (std::getline(row, cell, ','))
+            cells.push_back(cell);
+        if (!line.empty() && line.back() == ',')
+            cells.push_back("");
+        rows.push_back(cells);
+    }
+    return rows;
+}
 
 typedef vhValue (vhMath::*UnaryMember)(const vhValue&);
 typedef vhValue (vhMath::*BinaryMember)(const vhValue&, const vhValue&);

@@ -25,26 +25,6 @@ namespace {
 
 const double kInf = std::numeric_limits<double>::infinity();
 
-std::vector<std::vector<std::string>> readCsv(const std::string& file)
-{
-    std::vector<std::vector<std::string>> rows;
-    std::ifstream in(std::string(VH_TEST_DATA_DIR) + "/functions/data/" + file);
-    std::string line;
-    while (std::getline(in, line)) {
-        if (line.empty() || line[0] == '#')
-            continue;
-        std::vector<std::string> cells;
-        std::stringstream row(line);
-        std::string cell;
-        while (std::getline(row, cell, ','))
-            cells.push_back(cell);
-        if (!line.empty() && line.back() == ',')
-            cells.push_back("");
-        rows.push_back(cells);
-    }
-    return rows;
-}
-
 double num(const std::string& s) { return std::strtod(s.c_str(), nullptr); }
 
 vhValue d(double v) { return vhDouble(v); }

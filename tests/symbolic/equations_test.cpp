@@ -4,11 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "frame/math.h"
+#include "symbolic/symbolic_test_support.h"
 
 using namespace VarnholtMath::ValueTypes;
+using symbolic_tests::sym;
 
 namespace {
-vhValue sym(const std::string& s) { return vhSymbolicValue(s, false, {}); }
 vhValue str(const std::string& s) { return vhSymbolicValue(s, true, {}); }
 } // namespace
 

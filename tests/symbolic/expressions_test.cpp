@@ -11,20 +11,15 @@
 #include <utility>
 
 #include "frame/node_type.h"
+#include "symbolic/symbolic_test_support.h"
 #include "value/value.h"
 
 using namespace VarnholtMath::ValueTypes;
 
-namespace VarnholtMath {
-namespace ValueTypes {
-// Failures show the text form of a value.
-static void PrintTo(const vhValue& v, std::ostream* os) { *os << v.toStringAll() << " (" << v.typeName() << ")"; }
-} // namespace ValueTypes
-} // namespace VarnholtMath
+using symbolic_tests::sym;
 
 namespace {
 
-vhValue sym(const std::string& s) { return vhSymbolicValue(s, false, {}); }
 
 // Exponents of x and y of a monomial, and its coefficient.
 using Monomial = std::pair<int, int>;

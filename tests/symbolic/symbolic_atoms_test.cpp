@@ -8,22 +8,17 @@
 #include <cmath>
 #include <limits>
 
+#include "symbolic/symbolic_test_support.h"
 #include "value/value.h"
 
 using namespace VarnholtMath::ValueTypes;
 
-namespace VarnholtMath {
-namespace ValueTypes {
-// Failures show the text form of a value.
-static void PrintTo(const vhValue& v, std::ostream* os) { *os << v.toStringAll() << " (" << v.typeName() << ")"; }
-} // namespace ValueTypes
-} // namespace VarnholtMath
+using symbolic_tests::sym;
 
 namespace {
 
 const double kInf = std::numeric_limits<double>::infinity();
 
-vhValue sym(const std::string& s) { return vhSymbolicValue(s, false, {}); }
 vhValue str(const std::string& s) { return vhSymbolicValue(s, true, {}); }
 
 // Names of the factors, coefficient as its number, e.g. "3 y x".

@@ -7,20 +7,15 @@
 
 #include "frame/node_type.h"
 #include "frame/switches.h"
+#include "symbolic/symbolic_test_support.h"
 #include "value/value.h"
 
 using namespace VarnholtMath::ValueTypes;
 
-namespace VarnholtMath {
-namespace ValueTypes {
-// Failures show the text form of a value.
-static void PrintTo(const vhValue& v, std::ostream* os) { *os << v.toStringAll() << " (" << v.typeName() << ")"; }
-} // namespace ValueTypes
-} // namespace VarnholtMath
+using symbolic_tests::sym;
 
 namespace {
 
-vhValue sym(const std::string& s) { return vhSymbolicValue(s, false, {}); }
 vhValue fn(int id, const vhValue& a) { return vhSymbolicFunction(id, {a}); }
 vhValue power(const vhValue& base, const vhValue& e) { return vhSymbolicFunction(nt_pow, {base, e}); }
 double coefficient(const vhValue& v) { return v.firstMultiplier() ? v.firstMultiplier()->toDouble() : NAN; }
