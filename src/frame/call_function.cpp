@@ -394,6 +394,31 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
         result = math->rand_f();
         break;
     // --- end of elementwise and special functions ---
+
+    // --- host types ---
+    // (end of host types)
+
+    // --- fractions, division and substitution ---
+    // (end of fractions, division and substitution)
+
+    // --- number theory and transforms ---
+    // (end of number theory and transforms)
+
+    // --- images ---
+    // (end of images)
+
+    // --- filter design and running filters ---
+    // (end of filter design and running filters)
+
+    // --- distributions, random numbers, statistics and numeric calculus ---
+    // (end of distributions, random numbers, statistics and numeric calculus)
+
+    // --- decompositions and linear equations ---
+    // (end of decompositions and linear equations)
+
+    // --- finance, coordinates, geometry, conversions and chemistry ---
+    // (end of finance, coordinates, geometry, conversions and chemistry)
+
     default:
         break;
     }

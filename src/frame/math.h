@@ -215,6 +215,30 @@ public:
     vhValue JacobiSn_f(const vhValue& k, const vhValue& u);
     vhValue FermiDirac_f(const vhValue& j, const vhValue& x);
 
+    // --- host types ---
+    // (end of host types)
+
+    // --- fractions, division and substitution ---
+    // (end of fractions, division and substitution)
+
+    // --- number theory and transforms ---
+    // (end of number theory and transforms)
+
+    // --- images ---
+    // (end of images)
+
+    // --- filter design and running filters ---
+    // (end of filter design and running filters)
+
+    // --- distributions, random numbers, statistics and numeric calculus ---
+    // (end of distributions, random numbers, statistics and numeric calculus)
+
+    // --- decompositions and linear equations ---
+    // (end of decompositions and linear equations)
+
+    // --- finance, coordinates, geometry, conversions and chemistry ---
+    // (end of finance, coordinates, geometry, conversions and chemistry)
+
 private:
     void (*m_appProcessEventsCallback)();
     AngleUnit m_angleUnit;
@@ -233,6 +257,30 @@ private:
     unsigned int m_firFilterBufferSizes[filterSlots];
     double* m_iirFilterBuffers[filterSlots];
     unsigned int m_iirFilterBufferSizes[filterSlots];
+
+    // --- state: host types ---
+    // (end of state: host types)
+
+    // --- state: fractions, division and substitution ---
+    // (end of state: fractions, division and substitution)
+
+    // --- state: number theory and transforms ---
+    // (end of state: number theory and transforms)
+
+    // --- state: images ---
+    // (end of state: images)
+
+    // --- state: filter design and running filters ---
+    // (end of state: filter design and running filters)
+
+    // --- state: distributions, random numbers, statistics and numeric calculus ---
+    // (end of state: distributions, random numbers, statistics and numeric calculus)
+
+    // --- state: decompositions and linear equations ---
+    // (end of state: decompositions and linear equations)
+
+    // --- state: finance, coordinates, geometry, conversions and chemistry ---
+    // (end of state: finance, coordinates, geometry, conversions and chemistry)
 };
 
 // Calls the member of the catalogue row id with the arguments. The count of

@@ -122,6 +122,30 @@ rows = [
     # Two atoms that cancel leave an atom with coefficient 0.
     ("", "x - x", "text", "0"),
     ("", "(x + 1) * (x - 1)", "text", "x^2-1"),
+    # --- host types ---
+    # (end of host types)
+
+    # --- fractions, division and substitution ---
+    # (end of fractions, division and substitution)
+
+    # --- number theory and transforms ---
+    # (end of number theory and transforms)
+
+    # --- images ---
+    # (end of images)
+
+    # --- filter design and running filters ---
+    # (end of filter design and running filters)
+
+    # --- distributions, random numbers, statistics and numeric calculus ---
+    # (end of distributions, random numbers, statistics and numeric calculus)
+
+    # --- decompositions and linear equations ---
+    # (end of decompositions and linear equations)
+
+    # --- finance, coordinates, geometry, conversions and chemistry ---
+    # (end of finance, coordinates, geometry, conversions and chemistry)
+
 ]
 
 with open("worksheet_reference.tsv", "w") as f:
