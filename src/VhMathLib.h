@@ -7,4 +7,5 @@
 #include "frame/math.h"
 #include "frame/node_type.h"
 #include "frame/switches.h"
+#include "value/type_registry.h"
 #include "value/value.h"

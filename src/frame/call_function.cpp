@@ -396,6 +396,21 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // --- end of elementwise and special functions ---
 
     // --- host types ---
+    case nt_DefinedTypes:
+        result = math->DefinedTypes_f();
+        break;
+    case nt_TypeConstructors:
+        result = math->TypeConstructors_f(a[0]);
+        break;
+    case nt_TypeMembers:
+        result = math->TypeMembers_f(a[0]);
+        break;
+    case nt_TypeMethods:
+        result = math->TypeMethods_f(a[0]);
+        break;
+    case nt_TypeMethodArguments:
+        result = math->TypeMethodArguments_f(a[0], a[1]);
+        break;
     // (end of host types)
 
     // --- fractions, division and substitution ---

@@ -216,6 +216,19 @@ public:
     vhValue FermiDirac_f(const vhValue& j, const vhValue& x);
 
     // --- host types ---
+    // The registry of the host's types (value/type_registry.h), seen from the
+    // worksheet language.
+    vhValue DefinedTypes_f();
+    vhValue TypeConstructors_f(const vhValue& name);
+    vhValue TypeMembers_f(const vhValue& name);
+    vhValue TypeMethods_f(const vhValue& name);
+    vhValue TypeMethodArguments_f(const vhValue& name, const vhValue& method);
+    // Creates an object of a registered type. The variable arguments are
+    // const vhValue*: the type's name, then the n - 1 arguments (at most ten)
+    // of the type's create function, which gets them in order. A null
+    // argument arrives as the undefined value; the answer of create is
+    // returned as it is.
+    vhValue ObjectCreate_f(unsigned int n, ...);
     // (end of host types)
 
     // --- fractions, division and substitution ---
