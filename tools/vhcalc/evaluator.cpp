@@ -4,6 +4,7 @@
 #include <limits>
 #include <vector>
 
+#include "calc_error.h"
 #include "member_calls.h"
 
 namespace vhcalc {
@@ -17,6 +18,39 @@ namespace {
 bool isRealNumber(const vhValue& v)
 {
     return !v.isNull() && (v.valueType() == tagInteger || v.valueType() == tagDouble) && v.pointer() == nullptr;
+}
+
+// The engine takes objects' arguments as a C variable list of const
+// vhValue*: a name and at most ten arguments.
+constexpr std::size_t maximumObjectArguments = 10;
+
+// f(n, p[0], ..., p[n - 1]) for the n pointers of the list.
+template <class F>
+vhValue withPointers(F f, const std::vector<const vhValue*>& p)
+{
+    switch (p.size()) {
+    case 1: return f(1u, p[0]);
+    case 2: return f(2u, p[0], p[1]);
+    case 3: return f(3u, p[0], p[1], p[2]);
+    case 4: return f(4u, p[0], p[1], p[2], p[3]);
+    case 5: return f(5u, p[0], p[1], p[2], p[3], p[4]);
+    case 6: return f(6u, p[0], p[1], p[2], p[3], p[4], p[5]);
+    case 7: return f(7u, p[0], p[1], p[2], p[3], p[4], p[5], p[6]);
+    case 8: return f(8u, p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7]);
+    case 9: return f(9u, p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8]);
+    case 10: return f(10u, p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8], p[9]);
+    case 11: return f(11u, p[0], p[1], p[2], p[3], p[4], p[5], p[6], p[7], p[8], p[9], p[10]);
+    default: return vhValue();
+    }
+}
+
+bool typeDefined(const std::string& name)
+{
+    const vhValue names = MathDefinedTypes();
+    for (unsigned int i = 0; i < names.vectorSize(); ++i)
+        if (names.value(i).toString() == name)
+            return true;
+    return false;
 }
 
 } // namespace
@@ -58,6 +92,12 @@ vhValue Evaluator::evaluate(const Node& node)
         return chain(node);
     case Node::Kind::Array:
         return array(node);
+    case Node::Kind::New:
+        return creation(node);
+    case Node::Kind::Member:
+        return evaluate(*node.children[0]).get(node.text);
+    case Node::Kind::Method:
+        return method(node);
     }
     return vhValue();
 }
@@ -146,6 +186,42 @@ vhValue Evaluator::array(const Node& node)
         for (unsigned int j = 0; j < columns; ++j)
             result.setValue(elements[i * columns + j], i, j);
     return result;
+}
+
+vhValue Evaluator::creation(const Node& node)
+{
+    if (!typeDefined(node.text))
+        throw CalcError(node.offset, "unknown type " + node.text +
+                                         (MathDefinedTypes().vectorSize() == 0 ? " (vhcalc --demo-type registers the type point)" : ""));
+    if (node.children.size() > maximumObjectArguments)
+        throw CalcError(node.offset, "an object takes at most " + std::to_string(maximumObjectArguments) + " arguments");
+    const vhValue name = vhSymbolicValue(node.text, true, {});
+    std::vector<vhValue> arguments;
+    arguments.reserve(node.children.size());
+    for (const auto& child : node.children)
+        arguments.push_back(evaluate(*child));
+    std::vector<const vhValue*> pointers{&name};
+    for (const vhValue& a : arguments)
+        pointers.push_back(&a);
+    return withPointers([this](unsigned int n, auto... p) { return m_math.ObjectCreate_f(n, p...); }, pointers);
+}
+
+vhValue Evaluator::method(const Node& node)
+{
+    if (node.children.size() - 1 > maximumObjectArguments)
+        throw CalcError(node.offset, "a method takes at most " + std::to_string(maximumObjectArguments) + " arguments");
+    vhValue object = evaluate(*node.children[0]);
+    const vhValue name = vhSymbolicValue(node.text, true, {});
+    std::vector<vhValue> arguments;
+    arguments.reserve(node.children.size() - 1);
+    for (std::size_t i = 1; i < node.children.size(); ++i)
+        arguments.push_back(evaluate(*node.children[i]));
+    std::vector<const vhValue*> pointers{&name};
+    for (const vhValue& a : arguments)
+        pointers.push_back(&a);
+    // The object's value answers, or gives the undefined value when it has
+    // no such method.
+    return withPointers([&object](unsigned int n, auto... p) { return object.call(n, p...); }, pointers);
 }
 
 } // namespace vhcalc

@@ -2,7 +2,9 @@
 
 // Turns a parsed line into engine values: literals become values, operators
 // become the operators of vhValue, calls go through callFunction or the
-// member of vhMath, and assignments are kept for the following lines.
+// member of vhMath, new TYPE(...) goes to the type registry, p.x and p.f()
+// to the object's members and methods, and assignments are kept for the
+// following lines.
 
 #include <map>
 #include <string>
@@ -30,6 +32,8 @@ private:
     VarnholtMath::ValueTypes::vhValue call(const Node& node);
     VarnholtMath::ValueTypes::vhValue chain(const Node& node);
     VarnholtMath::ValueTypes::vhValue array(const Node& node);
+    VarnholtMath::ValueTypes::vhValue creation(const Node& node);
+    VarnholtMath::ValueTypes::vhValue method(const Node& node);
 
     VarnholtMath::ValueTypes::vhMath& m_math;
     const CatalogueIndex& m_catalogue;

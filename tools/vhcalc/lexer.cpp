@@ -190,6 +190,9 @@ std::vector<Token> tokenize(const std::string& line)
             case ']': kind = TokenKind::RightBracket; break;
             case ',': kind = TokenKind::Comma; break;
             case ';': kind = TokenKind::Semicolon; break;
+            // A point before a digit starts a number (.5); any other is
+            // member access (p.x).
+            case '.': kind = TokenKind::Dot; break;
             default: {
                 const std::size_t n = utf8Length(line, i);
                 throw CalcError(i, "unexpected character \"" + line.substr(i, n) + "\"");

@@ -26,6 +26,7 @@ enum class TokenKind {
     RightBracket,
     Comma,
     Semicolon,
+    Dot,
     Assign,
     Equal,
     NotEqual,

@@ -29,6 +29,8 @@ const char* const usage =
     "  --decimals N          decimal places of printed numbers, 0 to 14 (14)\n"
     "  --json                print each result as one JSON object\n"
     "  --strict              exit with 1 when a result is undefined\n"
+    "  --demo-type           register the example type point: new point(3, 4),\n"
+    "                        p.x, p.norm()\n"
     "  --list                print the function catalogue and exit\n"
     "  --help                print this text and exit\n"
     "  --                    the following arguments are expressions\n"
@@ -124,6 +126,8 @@ int main(int argc, char** argv)
                 options.json = true;
             } else if (arg == "--strict") {
                 options.strict = true;
+            } else if (arg == "--demo-type") {
+                options.demoType = true;
             } else if (arg == "--list") {
                 list = true;
             } else if (arg == "--help") {

@@ -121,7 +121,7 @@ private:
 
     NodePtr power()
     {
-        NodePtr base = primary();
+        NodePtr base = postfix(primary());
         if (peek().kind != TokenKind::Caret)
             return base;
         const Token& caret = take();
@@ -129,6 +129,59 @@ private:
         auto node = std::make_unique<Node>(Node::Kind::Power, base->offset);
         node->children.push_back(std::move(base));
         node->children.push_back(unary());
+        return node;
+    }
+
+    // Member access and method calls: p.x, p.norm(), new point(3, 4).norm().
+    // Each step counts as a level of nesting, so that a long chain stays
+    // within the limits of evaluating and destroying it.
+    NodePtr postfix(NodePtr object)
+    {
+        std::size_t steps = 0;
+        while (peek().kind == TokenKind::Dot) {
+            const Token& dot = take();
+            if (m_depth + ++steps > maximumNesting)
+                throw CalcError(dot.offset, "expression nested more than " + std::to_string(maximumNesting) +
+                                                " levels deep");
+            if (peek().kind != TokenKind::Identifier)
+                throw CalcError(peek().offset, "a member name must follow \".\", not " + describe(peek()));
+            const Token& name = take();
+            const bool method = peek().kind == TokenKind::LeftParen;
+            auto node = std::make_unique<Node>(method ? Node::Kind::Method : Node::Kind::Member, object->offset);
+            node->text = name.text;
+            node->children.push_back(std::move(object));
+            if (method)
+                arguments(*node);
+            object = std::move(node);
+        }
+        return object;
+    }
+
+    // A bracketed list of arguments, appended to the node's children.
+    void arguments(Node& node)
+    {
+        const Token& open = take();
+        if (peek().kind != TokenKind::RightParen) {
+            node.children.push_back(expression());
+            while (peek().kind == TokenKind::Comma) {
+                take();
+                node.children.push_back(expression());
+            }
+        }
+        close(TokenKind::RightParen, open);
+    }
+
+    // new TYPE(arguments) creates an object of a type that the host registered.
+    NodePtr creation()
+    {
+        const Token& keyword = take();
+        const Token& type = take();
+        if (peek().kind != TokenKind::LeftParen)
+            throw CalcError(peek().offset, "new " + type.text + " needs its arguments in brackets, such as new " +
+                                               type.text + "()");
+        auto node = std::make_unique<Node>(Node::Kind::New, keyword.offset);
+        node->text = type.text;
+        arguments(*node);
         return node;
     }
 
@@ -152,23 +205,18 @@ private:
             return node;
         }
         case TokenKind::Identifier: {
+            // "new" is a word of its own only before a type name.
+            if (t.text == "new" && peek(1).kind == TokenKind::Identifier)
+                return creation();
             take();
             if (peek().kind != TokenKind::LeftParen) {
                 auto node = std::make_unique<Node>(Node::Kind::Name, t.offset);
                 node->text = t.text;
                 return node;
             }
-            const Token& open = take();
             auto node = std::make_unique<Node>(Node::Kind::Call, t.offset);
             node->text = t.text;
-            if (peek().kind != TokenKind::RightParen) {
-                node->children.push_back(expression());
-                while (peek().kind == TokenKind::Comma) {
-                    take();
-                    node->children.push_back(expression());
-                }
-            }
-            close(TokenKind::RightParen, open);
+            arguments(*node);
             return node;
         }
         case TokenKind::LeftParen: {

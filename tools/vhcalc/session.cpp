@@ -20,6 +20,14 @@ Session::Session(const Options& options, std::ostream& out, std::ostream& err)
 {
     m_math.setAngleUnit(options.angle);
     m_math.setNumberOfDecimalPlaces(options.decimals);
+    if (options.demoType)
+        registerDemoType(m_objects);
+}
+
+Session::~Session()
+{
+    if (m_options.demoType)
+        unregisterDemoType();
 }
 
 void Session::runLine(const std::string& line, std::size_t lineNumber, bool showLine)

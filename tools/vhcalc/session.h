@@ -10,6 +10,7 @@
 #include <VhMathLib.h>
 
 #include "catalogue_index.h"
+#include "demo_type.h"
 #include "evaluator.h"
 
 namespace vhcalc {
@@ -18,6 +19,8 @@ struct Options {
     bool json = false;
     bool strict = false;
     bool decimalsGiven = false;
+    // Registers the example type point (demo_type.h).
+    bool demoType = false;
     unsigned int decimals = 14;
     VarnholtMath::ValueTypes::AngleUnit angle = VarnholtMath::ValueTypes::angleRadians;
 };
@@ -25,6 +28,9 @@ struct Options {
 class Session {
 public:
     Session(const Options& options, std::ostream& out, std::ostream& err);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Runs one line: "help NAME", or an expression whose result is printed.
     // Errors go to the error stream, naming the line and the column; with
@@ -48,6 +54,8 @@ private:
     Options m_options;
     std::ostream& m_out;
     std::ostream& m_err;
+    // Declared before the variables, which may hold handles into it.
+    ObjectStore m_objects;
     VarnholtMath::ValueTypes::vhMath m_math;
     CatalogueIndex m_catalogue;
     Evaluator m_evaluator;

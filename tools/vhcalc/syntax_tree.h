@@ -24,7 +24,10 @@ struct Node {
         Negate,  // children[0]
         Power,   // children[0] ^ children[1]
         Chain,   // children[0] ops[0] children[1] ops[1] children[2] ...
-        Array    // rows of children, see rowLengths
+        Array,   // rows of children, see rowLengths
+        New,     // new text(children...): an object of a registered type
+        Member,  // children[0].text: a member of an object
+        Method   // children[0].text(children[1], ...): a method of an object
     };
 
     Kind kind;

@@ -123,6 +123,14 @@ rows = [
     ("", "x - x", "text", "0"),
     ("", "(x + 1) * (x - 1)", "text", "x^2-1"),
     # --- host types ---
+    # Objects of the example type that --demo-type registers, and the rows
+    # that list the registered types.
+    ("--demo-type", "new point(3, 4).norm()", "value", "5"),
+    ("--demo-type", "new point(3, 4).y", "value", "4"),
+    ("--demo-type", "new point()", "text", "object of type point"),
+    ("--demo-type", 'TypeMembers("point")', "data", '["x", "y"]'),
+    ("--demo-type", 'TypeMethodArguments("point", "x")', "value", "null"),
+    ("", "DefinedTypes()", "data", "[]"),
     # (end of host types)
 
     # --- fractions, division and substitution ---

@@ -211,6 +211,79 @@ TEST(VhcalcCalls, NamesResolveToRowsOrFail)
     EXPECT_EQ(runCalculator({"derivative(y, 1)"}).status, 0);
 }
 
+TEST(VhcalcHostTypes, DemoTypeMakesObjectsWithMembersAndAMethod)
+{
+    const auto r = jsonResults({"p := new point(3, 4)", "p.x", "p.y", "p.norm()", "new point(-5, 12).norm()",
+                                "new point().norm()", "p.x^2 + p.y^2 == p.norm()^2", "-p.y", "q := p", "q == p",
+                                "new point(1)", "new point(\"a\", 2)", "new point(1, 2i)", "p.z", "p.norm(1)",
+                                "p.x.norm()", "(2).x"},
+                               {"--demo-type"});
+    EXPECT_EQ(field(r[0], "type"), "\"point\"");
+    EXPECT_EQ(decoded(field(r[0], "text")), "object of type point");
+    const char* expected[] = {nullptr, "3", "4", "5", "13", "0", "true", "-4", nullptr, "true",
+                              "null", "null", "null", "null", "null", "null", "null"};
+    for (std::size_t i = 0; i < r.size(); ++i)
+        if (expected[i])
+            EXPECT_EQ(field(r[i], "value"), expected[i]) << i << ": " << r[i];
+    // Each object is one of its own: a second point with the same
+    // coordinates is another object.
+    EXPECT_EQ(field(jsonResults({"new point(1, 2) == new point(1, 2)"}, {"--demo-type"})[0], "value"), "false");
+}
+
+TEST(VhcalcHostTypes, RowsListTheRegisteredTypes)
+{
+    const auto r = jsonResults({"DefinedTypes()", "TypeConstructors(\"point\")", "TypeMembers(\"point\")",
+                                "TypeMethods(\"point\")", "TypeMethodArguments(\"point\", \"norm\")",
+                                "TypeMethodArguments(\"point\", \"x\")", "TypeMembers(\"Point\")",
+                                "TypeMembers(point)"},
+                               {"--demo-type"});
+    const char* expected[] = {"[\"point\"]", "[\"point()\", \"point(x, y)\"]", "[\"x\", \"y\"]", "[\"norm\"]", "[]"};
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_EQ(field(field(r[i], "value"), "data"), expected[i]) << r[i];
+    for (std::size_t i = 5; i < r.size(); ++i)
+        EXPECT_EQ(field(r[i], "value"), "null") << r[i];
+    // Without the option no type is registered.
+    EXPECT_EQ(field(valueOf("DefinedTypes()"), "data"), "[]");
+    EXPECT_EQ(valueOf("TypeMembers(\"point\")"), "null");
+}
+
+TEST(VhcalcHostTypes, WrongUseOfObjectsNamesTheColumn)
+{
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"new point(1, 2)", "column 1: unknown type point (vhcalc --demo-type registers the type point)"},
+        {"p.", "column 3: a member name must follow \".\", not end of line"},
+        {"p.3", "column 2: unexpected number .3"},
+        {"p.(1)", "column 3: a member name must follow \".\", not \"(\""},
+        {"new point", "column 10: new point needs its arguments in brackets, such as new point()"},
+        {"x.f(1", "column 4: \"(\" is never closed by \")\""},
+    };
+    std::string input;
+    for (const auto& c : cases)
+        input += c.first + "\n";
+    Outcome run = runCalculator({}, input);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.out, "");
+    const auto messages = lines(run.err);
+    ASSERT_EQ(messages.size(), cases.size()) << run.err;
+    for (std::size_t i = 0; i < cases.size(); ++i)
+        EXPECT_EQ(messages[i], "vhcalc: line " + std::to_string(i + 1) + ", " + cases[i].second) << cases[i].first;
+
+    run = runCalculator({"--demo-type", "new circle()", "new point(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)", "p.f(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)"});
+    EXPECT_EQ(run.err, "vhcalc: line 1, column 1: unknown type circle\n"
+                       "vhcalc: line 2, column 1: an object takes at most 10 arguments\n"
+                       "vhcalc: line 3, column 1: a method takes at most 10 arguments\n");
+    // "new" alone is still a symbol, and a long chain of members is refused
+    // like any deep nesting.
+    EXPECT_EQ(field(jsonResults({"new + 1"})[0], "text"), "\"new+1\"");
+    std::string chain = "p";
+    for (int i = 0; i < 100000; ++i)
+        chain += ".x";
+    run = runCalculator({"--demo-type"}, chain + "\n");
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find(": expression nested more than 200 levels deep\n"), std::string::npos) << run.err;
+    EXPECT_EQ(valueOf(chain.substr(0, 2 * 150 + 1)), "null");
+}
+
 TEST(VhcalcOutput, JsonShapesOfEachKind)
 {
     const auto r = jsonResults({"1 < 2", "0.1", "1e308 * 10", "-1e308 * 10", "1/0", "1 - 2.5i", "\"q\""});
@@ -337,7 +410,7 @@ TEST(VhcalcBadInput, MalformedLinesNameTheColumn)
         {"1..2", "column 3: unexpected \".\" after the number 1."},
         {"2x", "column 2: unexpected \"x\" after the number 2"},
         {"1e+", "column 2: the exponent of a number needs digits"},
-        {".", "column 1: unexpected character \".\""},
+        {".", "column 1: unexpected \".\""},
         {"x :=", "column 5: an expression must follow :="},
         {":= 3", "column 1: a name must stand before :="},
         {"1 = 2", "column 3: unexpected character \"=\""},
