@@ -408,6 +408,42 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of images)
 
     // --- filter design and running filters ---
+    case nt_makeWindow:
+        result = math->makeWindow_f(a[0], a[1]);
+        break;
+    case nt_FIRlowpass:
+        result = math->FIRlowpass_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_FIRhighpass:
+        result = math->FIRhighpass_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_FIRbandpass:
+        result = math->FIRbandpass_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_FIRbandstop:
+        result = math->FIRbandstop_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_FIRhilbert:
+        result = math->FIRhilbert_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_InitFIRFilter:
+        result = math->InitFIRFilter_f(a[0], a[1], a[2]);
+        break;
+    case nt_FIRFilter:
+        result = math->FIRFilter_f(a[0], a[1], a[2]);
+        break;
+    case nt_InitIIRFilter:
+        result = math->InitIIRFilter_f(a[0], a[1]);
+        break;
+    case nt_IIRFilter:
+        result = math->IIRFilter_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_MovingAverage:
+        result = math->MovingAverage_f(a[0], a[1]);
+        break;
+    case nt_LMSAdaptive:
+        result = math->LMSAdaptive_f(a[0], a[1], a[2], a[3]);
+        break;
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
