@@ -444,6 +444,30 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_LMSAdaptive:
         result = math->LMSAdaptive_f(a[0], a[1], a[2], a[3]);
         break;
+    case nt_buttlowhigh:
+        result = math->buttlowhigh_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_buttband:
+        result = math->buttband_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby1lohi:
+        result = math->cheby1lohi_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby1band:
+        result = math->cheby1band_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_cheby2lohi:
+        result = math->cheby2lohi_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby2band:
+        result = math->cheby2band_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_elliplohi:
+        result = math->elliplohi_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_ellipband:
+        result = math->ellipband_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6]);
+        break;
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---

@@ -257,6 +257,23 @@ public:
     unsigned int firFilterBufferSize(int slot) const;
     const double* iirFilterBuffer(int slot) const;
     unsigned int iirFilterBufferSize(int slot) const;
+    // IIR designs: a matrix, numerator in column 0, denominator (a[0] = 1) in
+    // column 1. The kind is "low"/"high" or "pass"/"stop", or 0/1.
+    vhValue buttlowhigh_f(const vhValue& order, const vhValue& kind, const vhValue& cutoff, const vhValue& rate);
+    vhValue buttband_f(const vhValue& order, const vhValue& kind, const vhValue& start, const vhValue& end,
+                       const vhValue& rate);
+    vhValue cheby1lohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& ripple,
+                         const vhValue& rate);
+    vhValue cheby1band_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                         const vhValue& ripple, const vhValue& rate);
+    vhValue cheby2lohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& attenuation,
+                         const vhValue& rate);
+    vhValue cheby2band_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                         const vhValue& attenuation, const vhValue& rate);
+    vhValue elliplohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& ripple,
+                        const vhValue& attenuation, const vhValue& rate);
+    vhValue ellipband_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                        const vhValue& ripple, const vhValue& attenuation, const vhValue& rate);
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
