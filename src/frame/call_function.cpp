@@ -423,6 +423,66 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of images)
 
     // --- filter design and running filters ---
+    case nt_makeWindow:
+        result = math->makeWindow_f(a[0], a[1]);
+        break;
+    case nt_FIRlowpass:
+        result = math->FIRlowpass_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_FIRhighpass:
+        result = math->FIRhighpass_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_FIRbandpass:
+        result = math->FIRbandpass_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_FIRbandstop:
+        result = math->FIRbandstop_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_FIRhilbert:
+        result = math->FIRhilbert_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_InitFIRFilter:
+        result = math->InitFIRFilter_f(a[0], a[1], a[2]);
+        break;
+    case nt_FIRFilter:
+        result = math->FIRFilter_f(a[0], a[1], a[2]);
+        break;
+    case nt_InitIIRFilter:
+        result = math->InitIIRFilter_f(a[0], a[1]);
+        break;
+    case nt_IIRFilter:
+        result = math->IIRFilter_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_MovingAverage:
+        result = math->MovingAverage_f(a[0], a[1]);
+        break;
+    case nt_LMSAdaptive:
+        result = math->LMSAdaptive_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_buttlowhigh:
+        result = math->buttlowhigh_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_buttband:
+        result = math->buttband_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby1lohi:
+        result = math->cheby1lohi_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby1band:
+        result = math->cheby1band_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_cheby2lohi:
+        result = math->cheby2lohi_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_cheby2band:
+        result = math->cheby2band_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_elliplohi:
+        result = math->elliplohi_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_ellipband:
+        result = math->ellipband_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6]);
+        break;
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---

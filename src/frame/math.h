@@ -241,6 +241,52 @@ public:
     // (end of images)
 
     // --- filter design and running filters ---
+    // Windows and windowed-sinc FIR designs: numeric column vectors.
+    vhValue makeWindow_f(const vhValue& name, const vhValue& size);
+    vhValue FIRlowpass_f(const vhValue& cutoff, const vhValue& rate, const vhValue& order, const vhValue& window);
+    vhValue FIRhighpass_f(const vhValue& cutoff, const vhValue& rate, const vhValue& order, const vhValue& window);
+    vhValue FIRbandpass_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
+                          const vhValue& window);
+    vhValue FIRbandstop_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
+                          const vhValue& window);
+    vhValue FIRhilbert_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
+                         const vhValue& window);
+    // The signal through the low-pass, its length and orientation kept.
+    vhValue FIRFILlowpass_f(const vhValue& signal, const vhValue& cutoff, const vhValue& rate, const vhValue& order,
+                            const vhValue& window);
+    // Running filters over numbered slots (0..63) that keep the history
+    // between blocks. Only Init's overflow answers false.
+    vhValue InitFIRFilter_f(const vhValue& slot, const vhValue& blockSize, const vhValue& taps);
+    vhValue FIRFilter_f(const vhValue& slot, const vhValue& block, const vhValue& coefficients);
+    vhValue InitIIRFilter_f(const vhValue& slot, const vhValue& taps);
+    vhValue IIRFilter_f(const vhValue& slot, const vhValue& block, const vhValue& denominator,
+                        const vhValue& numerator);
+    vhValue MovingAverage_f(const vhValue& x, const vhValue& window);
+    // [y, e, w]: output and error shaped as the signal, weights a column.
+    vhValue LMSAdaptive_f(const vhValue& desired, const vhValue& input, const vhValue& mu, const vhValue& length);
+    // Read-only views of the slots for the host: null and 0 when free or out
+    // of range.
+    const double* firFilterBuffer(int slot) const;
+    unsigned int firFilterBufferSize(int slot) const;
+    const double* iirFilterBuffer(int slot) const;
+    unsigned int iirFilterBufferSize(int slot) const;
+    // IIR designs: a matrix, numerator in column 0, denominator (a[0] = 1) in
+    // column 1. The kind is "low"/"high" or "pass"/"stop", or 0/1.
+    vhValue buttlowhigh_f(const vhValue& order, const vhValue& kind, const vhValue& cutoff, const vhValue& rate);
+    vhValue buttband_f(const vhValue& order, const vhValue& kind, const vhValue& start, const vhValue& end,
+                       const vhValue& rate);
+    vhValue cheby1lohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& ripple,
+                         const vhValue& rate);
+    vhValue cheby1band_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                         const vhValue& ripple, const vhValue& rate);
+    vhValue cheby2lohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& attenuation,
+                         const vhValue& rate);
+    vhValue cheby2band_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                         const vhValue& attenuation, const vhValue& rate);
+    vhValue elliplohi_f(const vhValue& order, const vhValue& kind, const vhValue& edge, const vhValue& ripple,
+                        const vhValue& attenuation, const vhValue& rate);
+    vhValue ellipband_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
+                        const vhValue& ripple, const vhValue& attenuation, const vhValue& rate);
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
