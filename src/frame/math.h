@@ -231,6 +231,52 @@ public:
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
+    // Descriptive statistics: one number from the numbers of a vector or
+    // matrix; the row and column forms give one per row or column.
+    vhValue average_f(const vhValue& v);
+    vhValue RowsAverage_f(const vhValue& v);
+    vhValue ColumnsAverage_f(const vhValue& v);
+    vhValue variance_f(const vhValue& v);
+    vhValue rowVariance_f(const vhValue& v);
+    vhValue columnVariance_f(const vhValue& v);
+    vhValue varianceSample_f(const vhValue& v);
+    vhValue deviation_f(const vhValue& v);
+    vhValue RowsDeviation_f(const vhValue& v);
+    vhValue ColumnsDeviation_f(const vhValue& v);
+    vhValue deviationSample_f(const vhValue& v);
+    vhValue rowDeviationSample_f(const vhValue& v);
+    vhValue columnDeviationSample_f(const vhValue& v);
+    vhValue avgdev_f(const vhValue& v);
+    vhValue rowAvgdev_f(const vhValue& v);
+    vhValue columnAvgdev_f(const vhValue& v);
+    vhValue asymmetry_f(const vhValue& v);
+    vhValue rowAsymmetry_f(const vhValue& v);
+    vhValue columnAsymmetry_f(const vhValue& v);
+    vhValue median_f(const vhValue& v);
+    vhValue rowMedian_f(const vhValue& v);
+    vhValue columnMedian_f(const vhValue& v);
+    vhValue modus_f(const vhValue& v);
+    vhValue rowModus_f(const vhValue& v);
+    vhValue columnModus_f(const vhValue& v);
+    vhValue trimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue rowTrimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue columnTrimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue percentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue rowPercentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue columnPercentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue autocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue rowAutocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue columnAutocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue correlation_f(const vhValue& a, const vhValue& b);
+    vhValue rowCorrelation_f(const vhValue& a, const vhValue& b);
+    vhValue columnCorrelation_f(const vhValue& a, const vhValue& b);
+    vhValue covariance_f(const vhValue& a, const vhValue& b);
+    vhValue rowCovariance_f(const vhValue& a, const vhValue& b);
+    vhValue columnCovariance_f(const vhValue& a, const vhValue& b);
+    vhValue MeanSquareError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanAbsoluteError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanPercentageError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanAbsolutePercentageError_f(const vhValue& a, const vhValue& b);
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
