@@ -543,6 +543,114 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_MeanAbsolutePercentageError:
         result = math->MeanAbsolutePercentageError_f(a[0], a[1]);
         break;
+    case nt_tdens:
+        result = math->tdens_f(a[0], a[1]);
+        break;
+    case nt_tdist:
+        result = math->tdist_f(a[0], a[1]);
+        break;
+    case nt_tinv:
+        result = math->tinv_f(a[0], a[1]);
+        break;
+    case nt_chidens:
+        result = math->chidens_f(a[0], a[1]);
+        break;
+    case nt_chidist:
+        result = math->chidist_f(a[0], a[1]);
+        break;
+    case nt_chiinv:
+        result = math->chiinv_f(a[0], a[1]);
+        break;
+    case nt_poissondens:
+        result = math->poissondens_f(a[0], a[1]);
+        break;
+    case nt_poissondist:
+        result = math->poissondist_f(a[0], a[1]);
+        break;
+    case nt_poissoninv:
+        result = math->poissoninv_f(a[0], a[1]);
+        break;
+    case nt_geometricdens:
+        result = math->geometricdens_f(a[0], a[1]);
+        break;
+    case nt_geometricdist:
+        result = math->geometricdist_f(a[0], a[1]);
+        break;
+    case nt_geometricinv:
+        result = math->geometricinv_f(a[0], a[1]);
+        break;
+    case nt_logarithmicdens:
+        result = math->logarithmicdens_f(a[0], a[1]);
+        break;
+    case nt_logarithmicdist:
+        result = math->logarithmicdist_f(a[0], a[1]);
+        break;
+    case nt_logarithmicinv:
+        result = math->logarithmicinv_f(a[0], a[1]);
+        break;
+    case nt_exponentialdens:
+        result = math->exponentialdens_f(a[0], a[1]);
+        break;
+    case nt_exponentialdist:
+        result = math->exponentialdist_f(a[0], a[1]);
+        break;
+    case nt_exponentialinv:
+        result = math->exponentialinv_f(a[0], a[1]);
+        break;
+    case nt_normaldens:
+        result = math->normaldens_f(a[0], a[1], a[2]);
+        break;
+    case nt_normaldist:
+        result = math->normaldist_f(a[0], a[1], a[2]);
+        break;
+    case nt_normalinv:
+        result = math->normalinv_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammadens:
+        result = math->gammadens_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammadist:
+        result = math->gammadist_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammainv:
+        result = math->gammainv_f(a[0], a[1], a[2]);
+        break;
+    case nt_betadens:
+        result = math->betadens_f(a[0], a[1], a[2]);
+        break;
+    case nt_betadist:
+        result = math->betadist_f(a[0], a[1], a[2]);
+        break;
+    case nt_betainv:
+        result = math->betainv_f(a[0], a[1], a[2]);
+        break;
+    case nt_fdens:
+        result = math->fdens_f(a[0], a[1], a[2]);
+        break;
+    case nt_fdist:
+        result = math->fdist_f(a[0], a[1], a[2]);
+        break;
+    case nt_finv:
+        result = math->finv_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialdens:
+        result = math->dblexponentialdens_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialdist:
+        result = math->dblexponentialdist_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialinv:
+        result = math->dblexponentialinv_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchydens:
+        result = math->cauchydens_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchydist:
+        result = math->cauchydist_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchyinv:
+        result = math->cauchyinv_f(a[0], a[1], a[2]);
+        break;
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
