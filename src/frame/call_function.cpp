@@ -486,6 +486,246 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
+    case nt_average:
+        result = math->average_f(a[0]);
+        break;
+    case nt_RowsAverage:
+        result = math->RowsAverage_f(a[0]);
+        break;
+    case nt_ColumnsAverage:
+        result = math->ColumnsAverage_f(a[0]);
+        break;
+    case nt_variance:
+        result = math->variance_f(a[0]);
+        break;
+    case nt_rowVariance:
+        result = math->rowVariance_f(a[0]);
+        break;
+    case nt_columnVariance:
+        result = math->columnVariance_f(a[0]);
+        break;
+    case nt_varianceSample:
+        result = math->varianceSample_f(a[0]);
+        break;
+    case nt_deviation:
+        result = math->deviation_f(a[0]);
+        break;
+    case nt_RowsDeviation:
+        result = math->RowsDeviation_f(a[0]);
+        break;
+    case nt_ColumnsDeviation:
+        result = math->ColumnsDeviation_f(a[0]);
+        break;
+    case nt_deviationSample:
+        result = math->deviationSample_f(a[0]);
+        break;
+    case nt_rowDeviationSample:
+        result = math->rowDeviationSample_f(a[0]);
+        break;
+    case nt_columnDeviationSample:
+        result = math->columnDeviationSample_f(a[0]);
+        break;
+    case nt_avgdev:
+        result = math->avgdev_f(a[0]);
+        break;
+    case nt_rowAvgdev:
+        result = math->rowAvgdev_f(a[0]);
+        break;
+    case nt_columnAvgdev:
+        result = math->columnAvgdev_f(a[0]);
+        break;
+    case nt_asymmetry:
+        result = math->asymmetry_f(a[0]);
+        break;
+    case nt_rowAsymmetry:
+        result = math->rowAsymmetry_f(a[0]);
+        break;
+    case nt_columnAsymmetry:
+        result = math->columnAsymmetry_f(a[0]);
+        break;
+    case nt_median:
+        result = math->median_f(a[0]);
+        break;
+    case nt_rowMedian:
+        result = math->rowMedian_f(a[0]);
+        break;
+    case nt_columnMedian:
+        result = math->columnMedian_f(a[0]);
+        break;
+    case nt_modus:
+        result = math->modus_f(a[0]);
+        break;
+    case nt_rowModus:
+        result = math->rowModus_f(a[0]);
+        break;
+    case nt_columnModus:
+        result = math->columnModus_f(a[0]);
+        break;
+    case nt_trimmean:
+        result = math->trimmean_f(a[0], a[1]);
+        break;
+    case nt_rowTrimmean:
+        result = math->rowTrimmean_f(a[0], a[1]);
+        break;
+    case nt_columnTrimmean:
+        result = math->columnTrimmean_f(a[0], a[1]);
+        break;
+    case nt_percentile:
+        result = math->percentile_f(a[0], a[1]);
+        break;
+    case nt_rowPercentile:
+        result = math->rowPercentile_f(a[0], a[1]);
+        break;
+    case nt_columnPercentile:
+        result = math->columnPercentile_f(a[0], a[1]);
+        break;
+    case nt_autocorrelation:
+        result = math->autocorrelation_f(a[0], a[1]);
+        break;
+    case nt_rowAutocorrelation:
+        result = math->rowAutocorrelation_f(a[0], a[1]);
+        break;
+    case nt_columnAutocorrelation:
+        result = math->columnAutocorrelation_f(a[0], a[1]);
+        break;
+    case nt_correlation:
+        result = math->correlation_f(a[0], a[1]);
+        break;
+    case nt_rowCorrelation:
+        result = math->rowCorrelation_f(a[0], a[1]);
+        break;
+    case nt_columnCorrelation:
+        result = math->columnCorrelation_f(a[0], a[1]);
+        break;
+    case nt_covariance:
+        result = math->covariance_f(a[0], a[1]);
+        break;
+    case nt_rowCovariance:
+        result = math->rowCovariance_f(a[0], a[1]);
+        break;
+    case nt_columnCovariance:
+        result = math->columnCovariance_f(a[0], a[1]);
+        break;
+    case nt_MeanSquareError:
+        result = math->MeanSquareError_f(a[0], a[1]);
+        break;
+    case nt_MeanAbsoluteError:
+        result = math->MeanAbsoluteError_f(a[0], a[1]);
+        break;
+    case nt_MeanPercentageError:
+        result = math->MeanPercentageError_f(a[0], a[1]);
+        break;
+    case nt_MeanAbsolutePercentageError:
+        result = math->MeanAbsolutePercentageError_f(a[0], a[1]);
+        break;
+    case nt_tdens:
+        result = math->tdens_f(a[0], a[1]);
+        break;
+    case nt_tdist:
+        result = math->tdist_f(a[0], a[1]);
+        break;
+    case nt_tinv:
+        result = math->tinv_f(a[0], a[1]);
+        break;
+    case nt_chidens:
+        result = math->chidens_f(a[0], a[1]);
+        break;
+    case nt_chidist:
+        result = math->chidist_f(a[0], a[1]);
+        break;
+    case nt_chiinv:
+        result = math->chiinv_f(a[0], a[1]);
+        break;
+    case nt_poissondens:
+        result = math->poissondens_f(a[0], a[1]);
+        break;
+    case nt_poissondist:
+        result = math->poissondist_f(a[0], a[1]);
+        break;
+    case nt_poissoninv:
+        result = math->poissoninv_f(a[0], a[1]);
+        break;
+    case nt_geometricdens:
+        result = math->geometricdens_f(a[0], a[1]);
+        break;
+    case nt_geometricdist:
+        result = math->geometricdist_f(a[0], a[1]);
+        break;
+    case nt_geometricinv:
+        result = math->geometricinv_f(a[0], a[1]);
+        break;
+    case nt_logarithmicdens:
+        result = math->logarithmicdens_f(a[0], a[1]);
+        break;
+    case nt_logarithmicdist:
+        result = math->logarithmicdist_f(a[0], a[1]);
+        break;
+    case nt_logarithmicinv:
+        result = math->logarithmicinv_f(a[0], a[1]);
+        break;
+    case nt_exponentialdens:
+        result = math->exponentialdens_f(a[0], a[1]);
+        break;
+    case nt_exponentialdist:
+        result = math->exponentialdist_f(a[0], a[1]);
+        break;
+    case nt_exponentialinv:
+        result = math->exponentialinv_f(a[0], a[1]);
+        break;
+    case nt_normaldens:
+        result = math->normaldens_f(a[0], a[1], a[2]);
+        break;
+    case nt_normaldist:
+        result = math->normaldist_f(a[0], a[1], a[2]);
+        break;
+    case nt_normalinv:
+        result = math->normalinv_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammadens:
+        result = math->gammadens_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammadist:
+        result = math->gammadist_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammainv:
+        result = math->gammainv_f(a[0], a[1], a[2]);
+        break;
+    case nt_betadens:
+        result = math->betadens_f(a[0], a[1], a[2]);
+        break;
+    case nt_betadist:
+        result = math->betadist_f(a[0], a[1], a[2]);
+        break;
+    case nt_betainv:
+        result = math->betainv_f(a[0], a[1], a[2]);
+        break;
+    case nt_fdens:
+        result = math->fdens_f(a[0], a[1], a[2]);
+        break;
+    case nt_fdist:
+        result = math->fdist_f(a[0], a[1], a[2]);
+        break;
+    case nt_finv:
+        result = math->finv_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialdens:
+        result = math->dblexponentialdens_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialdist:
+        result = math->dblexponentialdist_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexponentialinv:
+        result = math->dblexponentialinv_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchydens:
+        result = math->cauchydens_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchydist:
+        result = math->cauchydist_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchyinv:
+        result = math->cauchyinv_f(a[0], a[1], a[2]);
+        break;
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---

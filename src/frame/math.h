@@ -290,6 +290,90 @@ public:
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---
+    // Descriptive statistics: one number from the numbers of a vector or
+    // matrix; the row and column forms give one per row or column.
+    vhValue average_f(const vhValue& v);
+    vhValue RowsAverage_f(const vhValue& v);
+    vhValue ColumnsAverage_f(const vhValue& v);
+    vhValue variance_f(const vhValue& v);
+    vhValue rowVariance_f(const vhValue& v);
+    vhValue columnVariance_f(const vhValue& v);
+    vhValue varianceSample_f(const vhValue& v);
+    vhValue deviation_f(const vhValue& v);
+    vhValue RowsDeviation_f(const vhValue& v);
+    vhValue ColumnsDeviation_f(const vhValue& v);
+    vhValue deviationSample_f(const vhValue& v);
+    vhValue rowDeviationSample_f(const vhValue& v);
+    vhValue columnDeviationSample_f(const vhValue& v);
+    vhValue avgdev_f(const vhValue& v);
+    vhValue rowAvgdev_f(const vhValue& v);
+    vhValue columnAvgdev_f(const vhValue& v);
+    vhValue asymmetry_f(const vhValue& v);
+    vhValue rowAsymmetry_f(const vhValue& v);
+    vhValue columnAsymmetry_f(const vhValue& v);
+    vhValue median_f(const vhValue& v);
+    vhValue rowMedian_f(const vhValue& v);
+    vhValue columnMedian_f(const vhValue& v);
+    vhValue modus_f(const vhValue& v);
+    vhValue rowModus_f(const vhValue& v);
+    vhValue columnModus_f(const vhValue& v);
+    vhValue trimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue rowTrimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue columnTrimmean_f(const vhValue& v, const vhValue& percentage);
+    vhValue percentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue rowPercentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue columnPercentile_f(const vhValue& v, const vhValue& percentage);
+    vhValue autocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue rowAutocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue columnAutocorrelation_f(const vhValue& v, const vhValue& lag);
+    vhValue correlation_f(const vhValue& a, const vhValue& b);
+    vhValue rowCorrelation_f(const vhValue& a, const vhValue& b);
+    vhValue columnCorrelation_f(const vhValue& a, const vhValue& b);
+    vhValue covariance_f(const vhValue& a, const vhValue& b);
+    vhValue rowCovariance_f(const vhValue& a, const vhValue& b);
+    vhValue columnCovariance_f(const vhValue& a, const vhValue& b);
+    vhValue MeanSquareError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanAbsoluteError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanPercentageError_f(const vhValue& a, const vhValue& b);
+    vhValue MeanAbsolutePercentageError_f(const vhValue& a, const vhValue& b);
+    // Probability distributions: density, cumulative function and inverse of
+    // each family; x first, then the parameters. Arrays of x are mapped.
+    vhValue tdens_f(const vhValue& t, const vhValue& df);
+    vhValue tdist_f(const vhValue& t, const vhValue& df);
+    vhValue tinv_f(const vhValue& p, const vhValue& df);
+    vhValue chidens_f(const vhValue& x, const vhValue& df);
+    vhValue chidist_f(const vhValue& x, const vhValue& df);
+    vhValue chiinv_f(const vhValue& p, const vhValue& df);
+    vhValue poissondens_f(const vhValue& k, const vhValue& rate);
+    vhValue poissondist_f(const vhValue& k, const vhValue& rate);
+    vhValue poissoninv_f(const vhValue& p, const vhValue& rate);
+    vhValue geometricdens_f(const vhValue& k, const vhValue& p);
+    vhValue geometricdist_f(const vhValue& k, const vhValue& p);
+    vhValue geometricinv_f(const vhValue& q, const vhValue& p);
+    vhValue logarithmicdens_f(const vhValue& k, const vhValue& p);
+    vhValue logarithmicdist_f(const vhValue& k, const vhValue& p);
+    vhValue logarithmicinv_f(const vhValue& q, const vhValue& p);
+    vhValue exponentialdens_f(const vhValue& x, const vhValue& rate);
+    vhValue exponentialdist_f(const vhValue& x, const vhValue& rate);
+    vhValue exponentialinv_f(const vhValue& p, const vhValue& rate);
+    vhValue normaldens_f(const vhValue& x, const vhValue& mean, const vhValue& sigma);
+    vhValue normaldist_f(const vhValue& x, const vhValue& mean, const vhValue& sigma);
+    vhValue normalinv_f(const vhValue& p, const vhValue& mean, const vhValue& sigma);
+    vhValue gammadens_f(const vhValue& x, const vhValue& shape, const vhValue& scale);
+    vhValue gammadist_f(const vhValue& x, const vhValue& shape, const vhValue& scale);
+    vhValue gammainv_f(const vhValue& p, const vhValue& shape, const vhValue& scale);
+    vhValue betadens_f(const vhValue& x, const vhValue& a, const vhValue& b);
+    vhValue betadist_f(const vhValue& x, const vhValue& a, const vhValue& b);
+    vhValue betainv_f(const vhValue& p, const vhValue& a, const vhValue& b);
+    vhValue fdens_f(const vhValue& x, const vhValue& d1, const vhValue& d2);
+    vhValue fdist_f(const vhValue& x, const vhValue& d1, const vhValue& d2);
+    vhValue finv_f(const vhValue& p, const vhValue& d1, const vhValue& d2);
+    vhValue dblexponentialdens_f(const vhValue& x, const vhValue& location, const vhValue& scale);
+    vhValue dblexponentialdist_f(const vhValue& x, const vhValue& location, const vhValue& scale);
+    vhValue dblexponentialinv_f(const vhValue& p, const vhValue& location, const vhValue& scale);
+    vhValue cauchydens_f(const vhValue& x, const vhValue& location, const vhValue& scale);
+    vhValue cauchydist_f(const vhValue& x, const vhValue& location, const vhValue& scale);
+    vhValue cauchyinv_f(const vhValue& p, const vhValue& location, const vhValue& scale);
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
