@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the build needs from Debian's packages, only when missing.
 set -euo pipefail
-packages=(cmake ninja-build g++ libeigen3-dev libboost-dev libgtest-dev libgmock-dev libbenchmark-dev)
+packages=(cmake ninja-build g++ libeigen3-dev libboost-dev libgtest-dev libgmock-dev libbenchmark-dev libsleef-dev pkg-config)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -117,13 +117,23 @@ inline bool isRealZero(const vhValue& v)
 // A real or complex scalar with an infinite part.
 bool isScalarInfinity(const vhValue& v);
 
-// A double that is undefined, or the double itself.
-inline vhValue doubleOrUndefined(double d) { return std::isnan(d) ? vhValue() : vhValue(vhDouble(d)); }
+// A double that is undefined, or the double itself. The result is built in
+// its return slot, with no record in between.
+inline vhValue doubleOrUndefined(double d)
+{
+    vhValue r;
+    if (!std::isnan(d))
+        r.setDouble(d);
+    return r;
+}
 
 // A complex number that is undefined when a part is NaN.
 inline vhValue complexOrUndefined(double re, double im)
 {
-    return (std::isnan(re) || std::isnan(im)) ? vhValue() : vhValue(vhComplex(re, im));
+    vhValue r;
+    if (!std::isnan(re) && !std::isnan(im))
+        r.setComplex(re, im);
+    return r;
 }
 
 // The held call of catalogue function `id`.
@@ -194,6 +204,41 @@ template <class Kernel, class Element> vhValue mapReal(const vhValue& array, Ker
     return result;
 }
 
+// The fast path for a numeric real array with a block kernel: block(x, out, n)
+// computes every element in the reals at once (reading a negative zero as 0,
+// out NaN meaning undefined), and leaves(x) tells the elements whose result is
+// not real; those go through f, as in mapReal. The scalar path of the same
+// function calls the same block with one number, so both give the same bits.
+template <class Block, class Leaves, class Element>
+vhValue mapRealBlock(const vhValue& array, Block block, Leaves leaves, Element f)
+{
+    const double* in = array.numericValues();
+    if (!in || array.numericImValues())
+        return mapElements(array, f);
+    const unsigned int n = array.vectorSize();
+    vhValue result = sameShape(array);
+    double* out = result.numericValues();
+    if (!out || result.vectorSize() != n)
+        return mapElements(array, f);
+    block(in, out, n);
+    std::vector<unsigned int> others;
+    for (unsigned int i = 0; i < n; ++i) {
+        const double x = in[i];
+        if (std::isnan(x)) {
+            out[i] = kNaN;
+        } else if (leaves(x == 0.0 ? 0.0 : x)) {
+            out[i] = 0.0;
+            others.push_back(i);
+        } else if (std::isnan(out[i])) {
+            out[i] = kNaN;
+        }
+    }
+    for (unsigned int i : others)
+        result.setValue(f(array.value(i)), i);
+    keepElementTypes(array, result);
+    return result;
+}
+
 // Pairs of elements of two arrays of one shape.
 template <class Element> vhValue mapPairs(const vhValue& x, const vhValue& y, Element f)
 {
@@ -243,6 +288,30 @@ vhValue unaryFast(const vhValue& x, int id, Element element, ComplexPart complex
         const vhValue& array = arrayOf(x, holder);
         if (array.numericValues() && !array.numericImValues())
             return mapReal(array, kernel, element);
+        return mapElements(array, element);
+    }
+    double a, b;
+    if (x.isComplex())
+        return complexOf(x, a, b) ? complexPart(a, b) : vhValue();
+    if (realOf(x, a))
+        return realPart(a);
+    return vhValue();
+}
+
+// The same with a block kernel for numeric real arrays (see mapRealBlock).
+template <class Element, class ComplexPart, class RealPart, class Block, class Leaves>
+vhValue unaryBlock(const vhValue& x, int id, Element element, ComplexPart complexPart, RealPart realPart,
+                   Block block, Leaves leaves)
+{
+    if (x.isNull())
+        return vhValue();
+    if (x.isSymbolic())
+        return symbolicCall(id, {x});
+    if (isArray(x)) {
+        vhValue holder;
+        const vhValue& array = arrayOf(x, holder);
+        if (array.numericValues() && !array.numericImValues())
+            return mapRealBlock(array, block, leaves, element);
         return mapElements(array, element);
     }
     double a, b;

@@ -8,6 +8,7 @@
 #include "frame/math.h"
 #include "functions/elementary_core.h"
 #include "functions/elementwise_skeleton.h"
+#include "functions/vector_math.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -34,20 +35,19 @@ vhValue complexLogValue(double a, double b)
     return complexOrUndefined(l.real(), l.imag());
 }
 
-// The real logarithm; false for a negative number, whose logarithm is complex.
-bool logKernel(double x, double& out)
+// The real logarithm of a block; a zero has none (NaN). A negative number,
+// whose logarithm is complex, leaves the reals.
+void logBlock(const double* x, double* out, std::size_t n)
 {
-    if (x < 0.0)
-        return false;
-    out = x == 0.0 ? kNaN : std::log(x);
-    return true;
+    vectormath::log(x, out, n);
+    for (std::size_t i = 0; i < n; ++i)
+        if (x[i] == 0.0)
+            out[i] = kNaN;
 }
 
-bool expKernel(double x, double& out)
-{
-    out = std::exp(x);
-    return true;
-}
+bool leavesLog(double x) { return x < 0.0; }
+
+bool staysReal(double) { return false; }
 
 } // namespace
 
@@ -60,10 +60,10 @@ vhValue expValue(const vhValue& x)
             return symbolicCall(nt_exp, {x});
         return symbolicCall(nt_pow, {vhDouble(2.718281828459045), x});
     }
-    return unaryFast(
+    return unaryBlock(
         x, nt_exp, [](const vhValue& e) { return expValue(e); },
         [](double a, double b) { return complexOrUndefined(std::exp(a) * std::cos(b), std::exp(a) * std::sin(b)); },
-        [](double d) { return realByKernel(d, expKernel, [](double) { return vhValue(); }); }, expKernel);
+        [](double d) { return doubleOrUndefined(vectormath::exp1(d)); }, vectormath::exp, staysReal);
 }
 
 vhValue logValue(const vhValue& x)
@@ -77,10 +77,16 @@ vhValue logValue(const vhValue& x)
     double d;
     if (realOf(x, d) && d < 0.0)
         return complexLogValue(d, 0.0);
-    return unaryFast(
+    return unaryBlock(
         x, nt_log, [](const vhValue& e) { return logValue(e); }, complexLogValue,
-        [](double r) { return realByKernel(r, logKernel, [](double v) { return complexLogValue(v, 0.0); }); },
-        logKernel);
+        [](double r) {
+            if (leavesLog(r))
+                return complexLogValue(r, 0.0);
+            double out;
+            logBlock(&r, &out, 1);
+            return doubleOrUndefined(out);
+        },
+        logBlock, leavesLog);
 }
 
 } // namespace elementary

@@ -12,6 +12,7 @@
 #include "frame/math.h"
 #include "functions/elementary_core.h"
 #include "functions/elementwise_skeleton.h"
+#include "functions/vector_math.h"
 #include "value/value_internal.h"
 
 namespace VarnholtMath {
@@ -23,21 +24,71 @@ namespace {
 
 bool isWholeQuotient(double q) { return double(internal::cutToInt32(q)) == q; }
 
-double sinRadians(double r) { return isWholeQuotient(r / kPi) ? 0.0 : std::sin(r); }
+// sin and cos of radian numbers, a block at a time, with their exact zeros:
+// sin at whole multiples of pi, cos at odd multiples of pi/2.
+void sinRadians(const double* r, double* out, std::size_t n)
+{
+    vectormath::sin(r, out, n);
+    for (std::size_t i = 0; i < n; ++i)
+        if (isWholeQuotient(r[i] / kPi))
+            out[i] = 0.0;
+}
 
-double cosRadians(double r) { return isWholeQuotient((r + kHalfPi) / kPi) ? 0.0 : std::cos(r); }
+void cosRadians(const double* r, double* out, std::size_t n)
+{
+    vectormath::cos(r, out, n);
+    for (std::size_t i = 0; i < n; ++i)
+        if (isWholeQuotient((r[i] + kHalfPi) / kPi))
+            out[i] = 0.0;
+}
 
-// sin and cos of a real argument in the angle unit, with the result
-// conversion that integrations in degrees or gradians ask for.
+// sin or cos of real arguments in the angle unit, with the result conversion
+// that integrations in degrees or gradians ask for. Arguments in another unit
+// are converted a slice at a time.
+template <class Radians>
+void trigBlock(Radians radians, const double* x, double* out, std::size_t n, AngleUnit unit, unsigned int count)
+{
+    if (unit != angleDegrees && unit != angleGradians) {
+        radians(x, out, n);
+        return;
+    }
+    const std::size_t slice = 256;
+    double r[slice];
+    for (std::size_t i = 0; i < n; i += slice) {
+        const std::size_t m = n - i < slice ? n - i : slice;
+        for (std::size_t k = 0; k < m; ++k)
+            r[k] = toRadians(x[i + k], unit);
+        radians(r, out + i, m);
+        for (std::size_t k = 0; k < m; ++k)
+            out[i + k] = repeatToRadians(out[i + k], unit, count);
+    }
+}
+
+void sinBlock(const double* x, double* out, std::size_t n, AngleUnit unit, unsigned int count)
+{
+    trigBlock(sinRadians, x, out, n, unit, count);
+}
+
+void cosBlock(const double* x, double* out, std::size_t n, AngleUnit unit, unsigned int count)
+{
+    trigBlock(cosRadians, x, out, n, unit, count);
+}
+
 double sinOf(double x, AngleUnit unit, unsigned int count)
 {
-    return repeatToRadians(sinRadians(toRadians(x, unit)), unit, count);
+    double out;
+    sinBlock(&x, &out, 1, unit, count);
+    return out;
 }
 
 double cosOf(double x, AngleUnit unit, unsigned int count)
 {
-    return repeatToRadians(cosRadians(toRadians(x, unit)), unit, count);
+    double out;
+    cosBlock(&x, &out, 1, unit, count);
+    return out;
 }
+
+bool staysReal(double) { return false; }
 
 // The complex sine and cosine of a radian argument; on the real axis they
 // stay complex, with imaginary part 0.
@@ -110,27 +161,23 @@ vhValue complexAcotRadians(double a, double b)
 vhValue vhMath::sin_f(const vhValue& x)
 {
     const AngleUnit unit = angleUnit();
-    auto kernel = [this, unit](double v, double& out) {
-        out = sinOf(v, unit, convertResultsToRadians());
-        return true;
-    };
-    return unaryFast(
+    const unsigned int count = convertResultsToRadians();
+    return unaryBlock(
         x, nt_sin, [this](const vhValue& e) { return sin_f(e); },
         [unit](double a, double b) { return complexValue(complexSin(toRadians(a, unit), toRadians(b, unit))); },
-        [&](double d) { return realByKernel(d, kernel, [](double) { return vhValue(); }); }, kernel);
+        [&](double d) { return doubleOrUndefined(sinOf(d, unit, count)); },
+        [&](const double* in, double* out, std::size_t n) { sinBlock(in, out, n, unit, count); }, staysReal);
 }
 
 vhValue vhMath::cos_f(const vhValue& x)
 {
     const AngleUnit unit = angleUnit();
-    auto kernel = [this, unit](double v, double& out) {
-        out = cosOf(v, unit, convertResultsToRadians());
-        return true;
-    };
-    return unaryFast(
+    const unsigned int count = convertResultsToRadians();
+    return unaryBlock(
         x, nt_cos, [this](const vhValue& e) { return cos_f(e); },
         [unit](double a, double b) { return complexValue(complexCos(toRadians(a, unit), toRadians(b, unit))); },
-        [&](double d) { return realByKernel(d, kernel, [](double) { return vhValue(); }); }, kernel);
+        [&](double d) { return doubleOrUndefined(cosOf(d, unit, count)); },
+        [&](const double* in, double* out, std::size_t n) { cosBlock(in, out, n, unit, count); }, staysReal);
 }
 
 namespace {

@@ -59,10 +59,18 @@ void vhValue::initFields()
 
 vhValue::vhValue() { initFields(); }
 
+// A fresh record cannot hold its own source, so the copy is written in place,
+// without the detour through a second record that assignment needs.
 vhValue::vhValue(const vhValue& other)
 {
     initFields();
-    setValue(other);
+    if (other.m_valueType == tagNull)
+        return;
+    if (other.m_valueType == tagVector && other.vectorSize() == 0) {
+        m_valueType = tagVector;
+        return;
+    }
+    copyContentFrom(other);
 }
 
 vhValue::vhValue(vhValue&& other) noexcept
@@ -99,7 +107,7 @@ void vhValue::takeContentFrom(vhValue& o)
         m_valueType = tagVector;
         return;
     }
-    swapRecord(o);
+    moveRecordFrom(o);
     // What a copy leaves behind: elements belong to arrays and symbolic
     // functions, storage and shape to arrays.
     const bool array = m_valueType == tagVector || m_valueType == tagMatrix;
@@ -132,7 +140,17 @@ vhValue::vhValue(std::string objectTypeName, void* objectPointer)
     m_objectPointer = objectPointer;
 }
 
-vhValue::~vhValue() { freeContent(); }
+// The containers and strings free themselves; only the owned pointers and
+// blocks need a hand.
+vhValue::~vhValue()
+{
+    delete m_exponent;
+    delete m_multiplier;
+    delete m_numerator;
+    delete m_denominator;
+    std::free(m_numericData);
+    std::free(m_imageData);
+}
 
 void vhValue::freeContent()
 {
@@ -178,6 +196,26 @@ void vhValue::replaceOwned(vhValue*& field, const vhValue* source)
     field = fresh;
 }
 
+namespace {
+// Containers and strings change hands only when they hold something, so that
+// an empty one costs nothing.
+template <class T> void takeIfAny(T& to, T& from)
+{
+    if (!from.empty())
+        to.swap(from);
+}
+template <class T> void copyIfAny(T& to, const T& from)
+{
+    if (!from.empty())
+        to = from;
+}
+template <class T> void swapIfAny(T& a, T& b)
+{
+    if (!a.empty() || !b.empty())
+        a.swap(b);
+}
+} // namespace
+
 void vhValue::swapRecord(vhValue& o)
 {
     using std::swap;
@@ -185,11 +223,11 @@ void vhValue::swapRecord(vhValue& o)
     swap(m_undefined, o.m_undefined);
     swap(m_re, o.m_re);
     swap(m_im, o.m_im);
-    swap(m_text, o.m_text);
+    swapIfAny(m_text, o.m_text);
     swap(m_numberOfDecimalPlaces, o.m_numberOfDecimalPlaces);
     swap(m_stringValue, o.m_stringValue);
-    swap(m_charFormats, o.m_charFormats);
-    swap(m_elements, o.m_elements);
+    swapIfAny(m_charFormats, o.m_charFormats);
+    swapIfAny(m_elements, o.m_elements);
     swap(m_numericData, o.m_numericData);
     swap(m_numericSize, o.m_numericSize);
     swap(m_numeric, o.m_numeric);
@@ -203,19 +241,19 @@ void vhValue::swapRecord(vhValue& o)
     swap(m_image, o.m_image);
     swap(m_columns, o.m_columns);
     swap(m_rows, o.m_rows);
-    swap(m_rowNames, o.m_rowNames);
-    swap(m_columnNames, o.m_columnNames);
-    swap(m_expressionValues, o.m_expressionValues);
+    swapIfAny(m_rowNames, o.m_rowNames);
+    swapIfAny(m_columnNames, o.m_columnNames);
+    swapIfAny(m_expressionValues, o.m_expressionValues);
     swap(m_bracket, o.m_bracket);
     swap(m_bracketExponent, o.m_bracketExponent);
     swap(m_numerator, o.m_numerator);
     swap(m_denominator, o.m_denominator);
-    swap(m_equationType, o.m_equationType);
+    swapIfAny(m_equationType, o.m_equationType);
     swap(m_intervalStart, o.m_intervalStart);
     swap(m_intervalStartIncuded, o.m_intervalStartIncuded);
     swap(m_intervalEnd, o.m_intervalEnd);
     swap(m_intervalEndIncluded, o.m_intervalEndIncluded);
-    swap(m_objectTypeName, o.m_objectTypeName);
+    swapIfAny(m_objectTypeName, o.m_objectTypeName);
     swap(m_objectPointer, o.m_objectPointer);
     swap(m_widgetDocument, o.m_widgetDocument);
     swap(m_functionID, o.m_functionID);
@@ -223,14 +261,72 @@ void vhValue::swapRecord(vhValue& o)
     swap(m_temp, o.m_temp);
     swap(m_mthis, o.m_mthis);
     swap(m_wrapper_type, o.m_wrapper_type);
-    swap(m_memberNames, o.m_memberNames);
-    swap(m_memberValues, o.m_memberValues);
-    swap(m_methodNames, o.m_methodNames);
-    swap(m_methodArgumentCounts, o.m_methodArgumentCounts);
-    swap(m_methodFunctions, o.m_methodFunctions);
-    swap(m_pointerMethodNames, o.m_pointerMethodNames);
-    swap(m_pointerMethodArgumentCounts, o.m_pointerMethodArgumentCounts);
-    swap(m_pointerMethodFunctions, o.m_pointerMethodFunctions);
+    swapIfAny(m_memberNames, o.m_memberNames);
+    swapIfAny(m_memberValues, o.m_memberValues);
+    swapIfAny(m_methodNames, o.m_methodNames);
+    swapIfAny(m_methodArgumentCounts, o.m_methodArgumentCounts);
+    swapIfAny(m_methodFunctions, o.m_methodFunctions);
+    swapIfAny(m_pointerMethodNames, o.m_pointerMethodNames);
+    swapIfAny(m_pointerMethodArgumentCounts, o.m_pointerMethodArgumentCounts);
+    swapIfAny(m_pointerMethodFunctions, o.m_pointerMethodFunctions);
+}
+
+
+void vhValue::moveRecordFrom(vhValue& o)
+{
+    m_valueType = o.m_valueType;
+    m_undefined = o.m_undefined;
+    m_re = o.m_re;
+    m_im = o.m_im;
+    takeIfAny(m_text, o.m_text);
+    m_numberOfDecimalPlaces = o.m_numberOfDecimalPlaces;
+    m_stringValue = o.m_stringValue;
+    takeIfAny(m_charFormats, o.m_charFormats);
+    takeIfAny(m_elements, o.m_elements);
+    m_numericData = o.m_numericData;
+    m_numericSize = o.m_numericSize;
+    m_numeric = o.m_numeric;
+    m_numericComplex = o.m_numericComplex;
+    m_exponent = o.m_exponent;
+    m_multiplier = o.m_multiplier;
+    m_sweepNullExponent = o.m_sweepNullExponent;
+    m_imageData = o.m_imageData;
+    m_imageSize = o.m_imageSize;
+    m_dpi = o.m_dpi;
+    m_image = o.m_image;
+    m_columns = o.m_columns;
+    m_rows = o.m_rows;
+    takeIfAny(m_rowNames, o.m_rowNames);
+    takeIfAny(m_columnNames, o.m_columnNames);
+    takeIfAny(m_expressionValues, o.m_expressionValues);
+    m_bracket = o.m_bracket;
+    m_bracketExponent = o.m_bracketExponent;
+    m_numerator = o.m_numerator;
+    m_denominator = o.m_denominator;
+    takeIfAny(m_equationType, o.m_equationType);
+    m_intervalStart = o.m_intervalStart;
+    m_intervalStartIncuded = o.m_intervalStartIncuded;
+    m_intervalEnd = o.m_intervalEnd;
+    m_intervalEndIncluded = o.m_intervalEndIncluded;
+    takeIfAny(m_objectTypeName, o.m_objectTypeName);
+    m_objectPointer = o.m_objectPointer;
+    m_widgetDocument = o.m_widgetDocument;
+    m_functionID = o.m_functionID;
+    m_pointer = o.m_pointer;
+    m_temp = o.m_temp;
+    m_mthis = o.m_mthis;
+    m_wrapper_type = o.m_wrapper_type;
+    takeIfAny(m_memberNames, o.m_memberNames);
+    takeIfAny(m_memberValues, o.m_memberValues);
+    takeIfAny(m_methodNames, o.m_methodNames);
+    takeIfAny(m_methodArgumentCounts, o.m_methodArgumentCounts);
+    takeIfAny(m_methodFunctions, o.m_methodFunctions);
+    takeIfAny(m_pointerMethodNames, o.m_pointerMethodNames);
+    takeIfAny(m_pointerMethodArgumentCounts, o.m_pointerMethodArgumentCounts);
+    takeIfAny(m_pointerMethodFunctions, o.m_pointerMethodFunctions);
+    // The source is left as a fresh record: its containers are the empty
+    // ones of this record, its blocks now belong here.
+    o.initFields();
 }
 
 // Copies a source of a tag other than 0 (and other than an empty vector) into
@@ -241,9 +337,9 @@ void vhValue::copyContentFrom(const vhValue& o)
     m_re = o.m_re;
     m_im = o.m_im;
     m_undefined = o.m_undefined;
-    m_text = o.m_text;
+    copyIfAny(m_text, o.m_text);
     m_stringValue = o.m_stringValue;
-    m_charFormats = o.m_charFormats;
+    copyIfAny(m_charFormats, o.m_charFormats);
     m_sweepNullExponent = o.m_sweepNullExponent;
     m_bracket = o.m_bracket;
     m_bracketExponent = o.m_bracketExponent;
@@ -276,35 +372,39 @@ void vhValue::copyContentFrom(const vhValue& o)
             }
         }
     } else if (m_valueType == tagSymbolicFunction) {
-        m_elements = o.m_elements;
+        copyIfAny(m_elements, o.m_elements);
     }
 
-    replaceOwned(m_exponent, o.m_exponent);
-    replaceOwned(m_multiplier, o.m_multiplier);
-    m_expressionValues = o.m_expressionValues;
-    replaceOwned(m_numerator, o.m_numerator);
-    replaceOwned(m_denominator, o.m_denominator);
+    if (o.m_exponent)
+        replaceOwned(m_exponent, o.m_exponent);
+    if (o.m_multiplier)
+        replaceOwned(m_multiplier, o.m_multiplier);
+    copyIfAny(m_expressionValues, o.m_expressionValues);
+    if (o.m_numerator)
+        replaceOwned(m_numerator, o.m_numerator);
+    if (o.m_denominator)
+        replaceOwned(m_denominator, o.m_denominator);
     m_functionID = o.m_functionID;
-    m_equationType = o.m_equationType;
+    copyIfAny(m_equationType, o.m_equationType);
     m_intervalStart = o.m_intervalStart;
     m_intervalStartIncuded = o.m_intervalStartIncuded;
     m_intervalEnd = o.m_intervalEnd;
     m_intervalEndIncluded = o.m_intervalEndIncluded;
-    m_objectTypeName = o.m_objectTypeName;
+    copyIfAny(m_objectTypeName, o.m_objectTypeName);
     m_objectPointer = o.m_objectPointer;
     m_widgetDocument = o.m_widgetDocument;
     m_pointer = o.m_pointer;
     m_temp = o.m_temp;
     m_mthis = o.m_mthis;
     m_wrapper_type = o.m_wrapper_type;
-    m_memberNames = o.m_memberNames;
-    m_memberValues = o.m_memberValues;
-    m_methodNames = o.m_methodNames;
-    m_methodArgumentCounts = o.m_methodArgumentCounts;
-    m_methodFunctions = o.m_methodFunctions;
-    m_pointerMethodNames = o.m_pointerMethodNames;
-    m_pointerMethodArgumentCounts = o.m_pointerMethodArgumentCounts;
-    m_pointerMethodFunctions = o.m_pointerMethodFunctions;
+    copyIfAny(m_memberNames, o.m_memberNames);
+    copyIfAny(m_memberValues, o.m_memberValues);
+    copyIfAny(m_methodNames, o.m_methodNames);
+    copyIfAny(m_methodArgumentCounts, o.m_methodArgumentCounts);
+    copyIfAny(m_methodFunctions, o.m_methodFunctions);
+    copyIfAny(m_pointerMethodNames, o.m_pointerMethodNames);
+    copyIfAny(m_pointerMethodArgumentCounts, o.m_pointerMethodArgumentCounts);
+    copyIfAny(m_pointerMethodFunctions, o.m_pointerMethodFunctions);
 }
 
 void vhValue::setValue(const vhValue& other)

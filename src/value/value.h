@@ -375,6 +375,9 @@ protected:
     void freeContent();
     void initFields();
     void swapRecord(vhValue& other);
+    // Takes over every field of other into this fresh record and leaves
+    // other fresh.
+    void moveRecordFrom(vhValue& other);
     void copyContentFrom(const vhValue& other);
     // Takes over the content of other into this fresh record, keeping only
     // what a copy would keep.
