@@ -297,7 +297,8 @@ std::vector<unsigned char> primeFlags(std::uint32_t limit)
 
 std::int64_t nthPrime(std::int64_t n, const StopPoll& stop)
 {
-    if (n < 1)
+    // 105097565 primes lie below 2^31; the next one needs 32 bits.
+    if (n < 1 || n > 105097565)
         return 0;
     if (n == 1)
         return 2;
