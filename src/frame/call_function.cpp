@@ -417,6 +417,111 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of fractions, division and substitution)
 
     // --- number theory and transforms ---
+    case nt_gcd:
+        result = math->gcd_f(a[0], a[1]);
+        break;
+    case nt_gcde:
+        result = math->gcde_f(a[0], a[1]);
+        break;
+    case nt_lcm:
+        result = math->lcm_f(a[0], a[1]);
+        break;
+    case nt_pseudoinverse:
+        result = math->pseudoinverse_f(a[0], a[1]);
+        break;
+    case nt_chineserem:
+        result = math->chineserem_f(a[0], a[1]);
+        break;
+    case nt_BinomialCoefficient:
+        result = math->BinomialCoefficient_f(a[0], a[1]);
+        break;
+    case nt_FibonaciNumber:
+        result = math->FibonaciNumber_f(a[0]);
+        break;
+    case nt_CountPartitions:
+        result = math->CountPartitions_f(a[0]);
+        break;
+    case nt_CountkPartitions:
+        result = math->CountkPartitions_f(a[0], a[1]);
+        break;
+    case nt_BellNumber:
+        result = math->BellNumber_f(a[0]);
+        break;
+    case nt_StirlingNumber1stKindSigned:
+        result = math->StirlingNumber1stKindSigned_f(a[0], a[1]);
+        break;
+    case nt_StirlingNumber1stKindUnsigned:
+        result = math->StirlingNumber1stKindUnsigned_f(a[0], a[1]);
+        break;
+    case nt_StirlingNumber2ndKind:
+        result = math->StirlingNumber2ndKind_f(a[0], a[1]);
+        break;
+    case nt_PoissonCoefficient:
+        result = math->PoissonCoefficient_f(a[0], a[1]);
+        break;
+    case nt_isPrime:
+        result = math->isPrime_f(a[0]);
+        break;
+    case nt_Factor:
+        result = math->Factor_f(a[0], a[1]);
+        break;
+    case nt_FactorUnique:
+        result = math->FactorUnique_f(a[0], a[1]);
+        break;
+    case nt_nextPrime:
+        result = math->nextPrime_f(a[0]);
+        break;
+    case nt_previousPrime:
+        result = math->previousPrime_f(a[0]);
+        break;
+    case nt_nthPrime:
+        result = math->nthPrime_f(a[0]);
+        break;
+    case nt_FFT1:
+        result = math->FFT1_f(a[0]);
+        break;
+    case nt_FFTI1:
+        result = math->FFTI1_f(a[0]);
+        break;
+    case nt_FFT2:
+        result = math->FFT2_f(a[0]);
+        break;
+    case nt_FFTI2:
+        result = math->FFTI2_f(a[0]);
+        break;
+    case nt_FFTShift:
+        result = math->FFTShift_f(a[0]);
+        break;
+    case nt_FFT1N:
+        result = math->FFT1N_f(a[0], a[1]);
+        break;
+    case nt_FFTI1N:
+        result = math->FFTI1N_f(a[0], a[1]);
+        break;
+    case nt_FFT2N:
+        result = math->FFT2N_f(a[0], a[1], a[2]);
+        break;
+    case nt_FFTI2N:
+        result = math->FFTI2N_f(a[0], a[1], a[2]);
+        break;
+    case nt_DCT1:
+        result = math->DCT1_f(a[0], a[1]);
+        break;
+    case nt_DCTI1:
+        result = math->DCTI1_f(a[0], a[1]);
+        break;
+    case nt_fwht:
+        result = math->fwht_f(a[0], a[1], a[2]);
+        break;
+    case nt_ifwht:
+        result = math->ifwht_f(a[0], a[1], a[2]);
+        break;
+    case nt_flip:
+        result = math->flip_f(a[0], a[1]);
+        break;
+    case nt_complexRe:
+        result = math->complexRe_f(a[0]);
+        break;
     // (end of number theory and transforms)
 
     // --- images ---

@@ -28,6 +28,7 @@ vhMath::vhMath(unsigned int decimals, AngleUnit unit) : vhMath()
 
 vhMath::~vhMath()
 {
+    finishFourierJob();
     deinitializeFIRfilterBuffer();
     deinitializeIIRfilterBuffer();
 }

@@ -235,6 +235,57 @@ public:
     // (end of fractions, division and substitution)
 
     // --- number theory and transforms ---
+    // Whole-number functions compute in 32-bit signed integers that wrap
+    // silently.
+    vhValue gcd_f(const vhValue& x, const vhValue& y);
+    vhValue gcde_f(const vhValue& x, const vhValue& y);
+    vhValue lcm_f(const vhValue& x, const vhValue& y);
+    // The inverse of x modulo p, in [0, |p|); 0 when there is none.
+    vhValue pseudoinverse_f(const vhValue& p, const vhValue& x);
+    vhValue chineserem_f(const vhValue& p, const vhValue& r);
+    vhValue BinomialCoefficient_f(const vhValue& n, const vhValue& k);
+    vhValue FibonaciNumber_f(const vhValue& n);
+    vhValue CountPartitions_f(const vhValue& n);
+    vhValue CountkPartitions_f(const vhValue& k, const vhValue& n);
+    vhValue BellNumber_f(const vhValue& n);
+    vhValue StirlingNumber1stKindSigned_f(const vhValue& n, const vhValue& k);
+    vhValue StirlingNumber1stKindUnsigned_f(const vhValue& n, const vhValue& k);
+    vhValue StirlingNumber2ndKind_f(const vhValue& n, const vhValue& k);
+    vhValue PoissonCoefficient_f(const vhValue& l, const vhValue& k);
+    vhValue isPrime_f(const vhValue& n);
+    vhValue nextPrime_f(const vhValue& n);
+    vhValue previousPrime_f(const vhValue& n);
+    vhValue nthPrime_f(const vhValue& n);
+    vhValue Factor_f(const vhValue& n, const vhValue& k);
+    vhValue FactorUnique_f(const vhValue& n, const vhValue& k);
+    bool isPrime(int n);
+    // The prime factors of n in ascending order, all of them or the distinct
+    // ones, at most maxFactors; false when the limit comes before the end.
+    bool Factor(unsigned int n, std::vector<int>& out, unsigned int maxFactors, unsigned int& count);
+    bool FactorUnique(unsigned int n, std::vector<int>& out, unsigned int maxFactors, unsigned int& count);
+    // The Fourier kernel for a length n: 1 the power-of-two and chirp kernel
+    // (for a prime factor above 10000), 2 the mixed-radix kernel, 0 none.
+    int FFTChoose(unsigned int n);
+    vhValue FFT1_f(const vhValue& v);
+    vhValue FFTI1_f(const vhValue& v);
+    vhValue FFT1N_f(const vhValue& v, const vhValue& n);
+    vhValue FFTI1N_f(const vhValue& v, const vhValue& n);
+    vhValue FFT2_f(const vhValue& m);
+    vhValue FFTI2_f(const vhValue& m);
+    vhValue FFT2N_f(const vhValue& m, const vhValue& rows, const vhValue& columns);
+    vhValue FFTI2N_f(const vhValue& m, const vhValue& rows, const vhValue& columns);
+    vhValue FFT1M_f(const vhValue& v);
+    vhValue FFT1Old_f(const vhValue& v);
+    vhValue FFTShift_f(const vhValue& v);
+    vhValue DCT1_f(const vhValue& v, const vhValue& n);
+    // Runs its transform on a worker thread and polls the stop flag.
+    vhValue DCTI1_f(const vhValue& v, const vhValue& n);
+    vhValue dct1_f(const vhValue& x, const vhValue& n);
+    vhValue idct1_f(const vhValue& x, const vhValue& n);
+    vhValue fwht_f(const vhValue& X, const vhValue& n, const vhValue& order);
+    vhValue ifwht_f(const vhValue& Y, const vhValue& n, const vhValue& order);
+    vhValue flip_f(const vhValue& v, const vhValue& direction);
+    vhValue complexRe_f(const vhValue& z);
     // (end of number theory and transforms)
 
     // --- images ---
@@ -408,6 +459,21 @@ private:
     // (end of state: fractions, division and substitution)
 
     // --- state: number theory and transforms ---
+    // The background transform: one job at a time. fftJobsRunning is 1
+    // while the worker runs; it is read and written atomically.
+    std::int32_t fftJobsRunning = 0;
+    std::int32_t fftSize = 0;
+    bool fftInverse = false;
+    double* fftInRe = nullptr;
+    double* fftInIm = nullptr;
+    double* fftOutRe = nullptr;
+    double* fftOutIm = nullptr;
+    // The worker thread and the job's arrays, which outlive an abandoned call.
+    struct FourierWorker;
+    FourierWorker* m_fourierWorker = nullptr;
+    void runFourierJob();
+    // Waits for a started worker and releases it; the destructor calls it.
+    void finishFourierJob();
     // (end of state: number theory and transforms)
 
     // --- state: images ---

@@ -137,6 +137,20 @@ rows = [
     # (end of fractions, division and substitution)
 
     # --- number theory and transforms ---
+    ("", "FFT1([1, 2, 3, 4])", "data", '[{"re": 10, "im": 0}, {"re": -2, "im": 2}, {"re": -2, "im": 0}, {"re": -2, "im": -2}]'),
+    ("", "FFT1([1, 2, 3])", "value", "null"),
+    ("", "nthPrime(1000)", "value", "7919"),
+    ("", "Factor(360, 10)", "data", "[2, 2, 2, 3, 3, 5]"),
+    ("", "Factor(12, 2)", "value", "null"),
+    ("", "FactorUnique(12, 2)", "data", "[2, 3]"),
+    ("", "gcde(240, 46)", "data", "[2, -9, 47]"),
+    ("", "chineserem([3, 5], [2, 3])", "value", "8"),
+    ("", "BinomialCoefficient(40, 20)", "value", str((137846528820 % 2**32))),
+    ("", "isPrime(97)", "value", "true"),
+    ("", "fwht([19, -1, 11, -9, -7, 13, -15, 5], 8, \"seq\")", "data", "[2, 3, 0, 4, 0, 0, 10, 0]"),
+    ("", "PoissonCoefficient(2.5, 3)", "number", num(mpmath.exp(-2.5) * mpmath.mpf(2.5) ** 3 / 6), SPECIAL),
+    ("", "StirlingNumber2ndKind(10, 4)", "value", "34105"),
+    ("", "BellNumber(10)", "value", "115975"),
     # (end of number theory and transforms)
 
     # --- images ---
