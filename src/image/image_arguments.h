@@ -38,9 +38,9 @@ bool sizeAllowed(std::uint64_t rows, std::uint64_t columns);
 // A whole number, as vhInteger when it fits, else vhDouble.
 vhValue wholeNumber(std::uint64_t n);
 
-// A matrix with fresh storage: image pixels or numeric doubles left for the
-// caller to write (the imaginary half of a numeric one is zero). data() is
-// null when the storage could not be made.
+// A matrix with fresh storage: image pixels left for the caller to write, or
+// numeric doubles, all zero. data() is null when the storage could not be
+// made.
 class FreshImage : public vhMatrix {
 public:
     FreshImage(unsigned rows, unsigned columns, unsigned dpi);
