@@ -525,6 +525,102 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of number theory and transforms)
 
     // --- images ---
+    case nt_IsImage:
+        result = math->IsImage_f(a[0]);
+        break;
+    case nt_ImageSetDPI:
+        result = math->ImageSetDPI_f(a[0], a[1]);
+        break;
+    case nt_ImageDPI:
+        result = math->ImageDPI_f(a[0]);
+        break;
+    case nt_ImageCreate:
+        result = math->ImageCreate_f(a[0], a[1]);
+        break;
+    case nt_ImageWidth:
+        result = math->ImageWidth_f(a[0]);
+        break;
+    case nt_ImageHeight:
+        result = math->ImageHeight_f(a[0]);
+        break;
+    case nt_ImageFill:
+        result = math->ImageFill_f(a[0], a[1]);
+        break;
+    case nt_ImageRed:
+        result = math->ImageRed_f(a[0]);
+        break;
+    case nt_ImageGreen:
+        result = math->ImageGreen_f(a[0]);
+        break;
+    case nt_ImageBlue:
+        result = math->ImageBlue_f(a[0]);
+        break;
+    case nt_ImageAlpha:
+        result = math->ImageAlpha_f(a[0]);
+        break;
+    case nt_ImageBGRA:
+        result = math->ImageBGRA_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_ImageRedMul:
+        result = math->ImageRedMul_f(a[0], a[1]);
+        break;
+    case nt_ImageGreenMul:
+        result = math->ImageGreenMul_f(a[0], a[1]);
+        break;
+    case nt_ImageBlueMul:
+        result = math->ImageBlueMul_f(a[0], a[1]);
+        break;
+    case nt_ImageAlphaMul:
+        result = math->ImageAlphaMul_f(a[0], a[1]);
+        break;
+    case nt_ToRed:
+        result = math->ToRed_f(a[0]);
+        break;
+    case nt_ToGreen:
+        result = math->ToGreen_f(a[0]);
+        break;
+    case nt_ToBlue:
+        result = math->ToBlue_f(a[0]);
+        break;
+    case nt_ToAlpha:
+        result = math->ToAlpha_f(a[0]);
+        break;
+    case nt_ToBGRA:
+        result = math->ToBGRA_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_Image2Matrix:
+        result = math->Image2Matrix_f(a[0]);
+        break;
+    case nt_Matrix2Image:
+        result = math->Matrix2Image_f(a[0]);
+        break;
+    case nt_ImageFilter:
+        result = math->ImageFilter_f(a[0], a[1]);
+        break;
+    case nt_ImageSmooth:
+        result = math->ImageSmooth_f(a[0]);
+        break;
+    case nt_ImageEdge:
+        result = math->ImageEdge_f(a[0]);
+        break;
+    case nt_ImageMblur:
+        result = math->ImageMblur_f(a[0]);
+        break;
+    case nt_ImageSharpen:
+        result = math->ImageSharpen_f(a[0]);
+        break;
+    case nt_ImageRaised:
+        result = math->ImageRaised_f(a[0]);
+        break;
+    case nt_ImageMedian:
+        result = math->ImageMedian_f(a[0], a[1]);
+        break;
+    case nt_ImageAbsDiff:
+        result = math->ImageAbsDiff_f(a[0], a[1]);
+        break;
+    case nt_ImageMsePsnr:
+        result = math->ImageMsePsnr_f(a[0], a[1]);
+        break;
     // (end of images)
 
     // --- filter design and running filters ---

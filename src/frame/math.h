@@ -289,6 +289,42 @@ public:
     // (end of number theory and transforms)
 
     // --- images ---
+    // Pixels are packed words: blue in bits 0-7, green 8-15, red 16-23,
+    // alpha 24-31. Members that read pixels need a matrix with image storage.
+    vhValue IsImage_f(const vhValue& v);
+    vhValue ImageWidth_f(const vhValue& image);
+    vhValue ImageHeight_f(const vhValue& image);
+    vhValue ImageDPI_f(const vhValue& image);
+    vhValue ImageSetDPI_f(const vhValue& image, const vhValue& dpi);
+    vhValue ImageCreate_f(const vhValue& width, const vhValue& height);
+    vhValue ImageFill_f(const vhValue& shape, const vhValue& pixel);
+    vhValue ImageRed_f(const vhValue& image);
+    vhValue ImageGreen_f(const vhValue& image);
+    vhValue ImageBlue_f(const vhValue& image);
+    vhValue ImageAlpha_f(const vhValue& image);
+    vhValue ImageBGRA_f(const vhValue& blue, const vhValue& green, const vhValue& red, const vhValue& alpha);
+    vhValue ImageRedMul_f(const vhValue& image, const vhValue& factor);
+    vhValue ImageGreenMul_f(const vhValue& image, const vhValue& factor);
+    vhValue ImageBlueMul_f(const vhValue& image, const vhValue& factor);
+    vhValue ImageAlphaMul_f(const vhValue& image, const vhValue& factor);
+    vhValue ToRed_f(const vhValue& pixel);
+    vhValue ToGreen_f(const vhValue& pixel);
+    vhValue ToBlue_f(const vhValue& pixel);
+    vhValue ToAlpha_f(const vhValue& pixel);
+    vhValue ToBGRA_f(const vhValue& blue, const vhValue& green, const vhValue& red, const vhValue& alpha);
+    vhValue Image2Matrix_f(const vhValue& image);
+    vhValue Matrix2Image_f(const vhValue& matrix);
+    // The 3 x 3 filters and the median filter run the events callback between
+    // rows and give the undefined value when the host stops the calculation.
+    vhValue ImageFilter_f(const vhValue& image, const vhValue& kernel);
+    vhValue ImageSmooth_f(const vhValue& image);
+    vhValue ImageEdge_f(const vhValue& image);
+    vhValue ImageMblur_f(const vhValue& image);
+    vhValue ImageSharpen_f(const vhValue& image);
+    vhValue ImageRaised_f(const vhValue& image);
+    vhValue ImageMedian_f(const vhValue& image, const vhValue& size);
+    vhValue ImageAbsDiff_f(const vhValue& a, const vhValue& b);
+    vhValue ImageMsePsnr_f(const vhValue& a, const vhValue& b);
     // (end of images)
 
     // --- filter design and running filters ---

@@ -154,6 +154,24 @@ rows = [
     # (end of number theory and transforms)
 
     # --- images ---
+    # Pixels are words: blue in the low byte, then green, red and alpha.
+    ("", "ToRed(2151686160)", "value", "64"),
+    ("", "ToAlpha(4294967295)", "value", "255"),
+    ("", "ToBGRA(16, 32, 64, 128)", "value", "2151686160"),
+    ("", "ToBGRA(256, 0, 0, 0)", "value", "null"),
+    ("", "IsImage(ImageCreate(2, 3))", "value", "true"),
+    ("", "ImageHeight(ImageCreate(2, 3))", "value", "3"),
+    ("", "ImageDPI(ImageSetDPI(ImageCreate(2, 3), 300))", "value", "300"),
+    ("", "Image2Matrix(ImageFill(ImageCreate(2, 1), 2151686160))", "data", "[2151686160, 2151686160]"),
+    ("", "Image2Matrix(ImageRedMul(ImageFill(ImageCreate(1, 1), 2151686160), 0.5))", "data", "[2149589008]"),
+    ("", "Image2Matrix(ImageBGRA(ImageCreate(1, 1), Matrix2Image([7]), Matrix2Image([8]), Matrix2Image([0])))",
+     "data", "[526335]"),
+    ("", "Matrix2Image([0.5])", "value", "null"),
+    ("", "Image2Matrix(Matrix2Image([-1, 3]))", "data", "[0, 3]"),
+    ("", "Image2Matrix(ImageSmooth(Matrix2Image([1, 2, 3; 4, 5, 6; 7, 8, 9])))", "data", "[1, 2, 3, 4, 5, 6, 7, 8, 9]"),
+    ("", "Image2Matrix(ImageMedian(Matrix2Image([1, 9, 2; 8, 3, 7; 4, 6, 5]), [3, 3]))", "data", "[5]"),
+    ("", "ImageMsePsnr(Matrix2Image([0]), Matrix2Image([255]))", "data", "[21675, 4.7712125471966242]"),
+    ("", "ImageMsePsnr(Matrix2Image([5]), Matrix2Image([5]))", "data", "[0, null]"),
     # (end of images)
 
     # --- filter design and running filters ---
