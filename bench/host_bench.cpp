@@ -129,7 +129,11 @@ void DefineTypes(benchmark::State& state)
     }
     state.SetComplexityN(n);
 }
-BENCHMARK(DefineTypes)->RangeMultiplier(10)->Range(100, 10000)->Complexity(benchmark::oN)->Unit(benchmark::kMicrosecond);
+BENCHMARK(DefineTypes)
+    ->RangeMultiplier(10)
+    ->Range(100, 10000)
+    ->Complexity(benchmark::oN)
+    ->Unit(benchmark::kMicrosecond);
 
 // One lookup of a type's members among n types: the same for every n.
 void LookupAmongTypes(benchmark::State& state)

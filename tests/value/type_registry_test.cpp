@@ -217,9 +217,10 @@ TEST_F(TypeRegistry, NamesMatchExactlyAndOnlyAsStrings)
     EXPECT_FALSE(MathTypeMembers(str("point")).isNull());
     // A one-term expression holding the string is that string.
     EXPECT_FALSE(MathTypeMembers(vhExpression(str("point"))).isNull());
-    for (const vhValue& name : std::vector<vhValue>{str("Point"), str("point "), str(" point"), str("poin"), str("pointx"), str(""),
-                                vhSymbolicValue("point", false, {}), vhValue(), vhInteger(0), vhObject("point", nullptr),
-                                strings({"point"})}) {
+    const std::vector<vhValue> others = {str("Point"), str("point "), str(" point"), str("poin"), str("pointx"),
+                                         str(""), vhSymbolicValue("point", false, {}), vhValue(), vhInteger(0),
+                                         vhObject("point", nullptr), strings({"point"})};
+    for (const vhValue& name : others) {
         EXPECT_TRUE(MathTypeMembers(name).isNull()) << name.toStringAll();
         EXPECT_TRUE(MathTypeConstructors(name).isNull());
         EXPECT_TRUE(MathTypeMethods(name).isNull());

@@ -190,11 +190,14 @@ vhValue Evaluator::array(const Node& node)
 
 vhValue Evaluator::creation(const Node& node)
 {
-    if (!typeDefined(node.text))
+    if (!typeDefined(node.text)) {
+        const bool none = MathDefinedTypes().vectorSize() == 0;
         throw CalcError(node.offset, "unknown type " + node.text +
-                                         (MathDefinedTypes().vectorSize() == 0 ? " (vhcalc --demo-type registers the type point)" : ""));
+                                         (none ? " (vhcalc --demo-type registers the type point)" : ""));
+    }
     if (node.children.size() > maximumObjectArguments)
-        throw CalcError(node.offset, "an object takes at most " + std::to_string(maximumObjectArguments) + " arguments");
+        throw CalcError(node.offset,
+                        "an object takes at most " + std::to_string(maximumObjectArguments) + " arguments");
     const vhValue name = vhSymbolicValue(node.text, true, {});
     std::vector<vhValue> arguments;
     arguments.reserve(node.children.size());

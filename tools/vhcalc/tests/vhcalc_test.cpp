@@ -268,7 +268,8 @@ TEST(VhcalcHostTypes, WrongUseOfObjectsNamesTheColumn)
     for (std::size_t i = 0; i < cases.size(); ++i)
         EXPECT_EQ(messages[i], "vhcalc: line " + std::to_string(i + 1) + ", " + cases[i].second) << cases[i].first;
 
-    run = runCalculator({"--demo-type", "new circle()", "new point(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)", "p.f(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)"});
+    run = runCalculator({"--demo-type", "new circle()", "new point(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)",
+                         "p.f(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)"});
     EXPECT_EQ(run.err, "vhcalc: line 1, column 1: unknown type circle\n"
                        "vhcalc: line 2, column 1: an object takes at most 10 arguments\n"
                        "vhcalc: line 3, column 1: a method takes at most 10 arguments\n");
