@@ -9,7 +9,8 @@
 //   ImageMsePsnr       / RawSquaredDiff    sum of squared byte differences
 //   ImageMedian3x3     / RawMedian9        median with a 9-value network
 // Growth: ImageRed, ImageSmooth and ImageMedian3x3 at 1024 and 4096 (16x
-// the pixels); ImageMedian31x31 against ImageMedian3x3 at 1024.
+// the pixels); ImageMedianSquare (windows 11, 31 and 101 square) against
+// ImageMedian3x3 at 1024.
 
 #include <benchmark/benchmark.h>
 
@@ -307,18 +308,18 @@ void ImageMedian3x3(benchmark::State& state)
 }
 BENCHMARK(ImageMedian3x3)->Arg(1024)->Arg(4096)->Unit(benchmark::kMillisecond);
 
-void ImageMedian31x31(benchmark::State& state)
+void ImageMedianSquare(benchmark::State& state)
 {
     vhMath math;
     const vhValue& a = image(1024, 1);
-    double size[2] = {31, 31};
+    double size[2] = {double(state.range(0)), double(state.range(0))};
     const vhVector s(size, 2, true);
     for (auto _ : state) {
         vhValue r = math.ImageMedian_f(a, s);
         benchmark::DoNotOptimize(r.imageValues());
     }
 }
-BENCHMARK(ImageMedian31x31)->Unit(benchmark::kMillisecond);
+BENCHMARK(ImageMedianSquare)->Arg(11)->Arg(31)->Arg(101)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
