@@ -248,7 +248,8 @@ struct TwoLevelHistogram {
         for (long long& s : segmentAt)
             s = -1;
         level = 8;
-        fineSegment = 16;
+        for (unsigned& l : fineLevel)
+            l = 8;
     }
     // From the window at x - 1 to the window at x.
     void step(std::size_t x)
@@ -291,19 +292,16 @@ struct TwoLevelHistogram {
             before -= coarse[--level];
         while (before + coarse[level] <= k)
             before += coarse[level++];
-        if (level != fineSegment) {
-            fineSegment = level;
-            fineLevel = 8;
-        }
         refresh(level, x);
         const std::uint16_t* f = fine + 16 * level;
         const std::uint32_t kk = k - before;
-        std::uint32_t below = countBelow(f, fineLevel);
+        unsigned& fl = fineLevel[level];
+        std::uint32_t below = countBelow(f, fl);
         while (below > kk)
-            below -= f[--fineLevel];
-        while (below + f[fineLevel] <= kk)
-            below += f[fineLevel++];
-        return 16 * level + fineLevel;
+            below -= f[--fl];
+        while (below + f[fl] <= kk)
+            below += f[fl++];
+        return 16 * level + fl;
     }
     // The sum of the first `end` of 16 counts, without branches.
     static std::uint32_t countBelow(const std::uint16_t* counts, unsigned end)
@@ -313,7 +311,10 @@ struct TwoLevelHistogram {
             sum += j < end ? counts[j] : 0u;
         return sum;
     }
-    unsigned level = 8, fineSegment = 16, fineLevel = 8;
+    // Where the last walks ended: the coarse bin, and in each segment the
+    // fine bin.
+    unsigned level = 8;
+    unsigned fineLevel[16];
 };
 
 } // namespace
