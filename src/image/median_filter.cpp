@@ -21,6 +21,9 @@ bool MedianFilter::setImage(const std::uint32_t* pixels, unsigned rows, unsigned
     m_columns = columns;
     m_outRows = m_outColumns = 0;
     m_planes.reset();
+    m_columnCounts.reset();
+    m_columnRow = -1;
+    m_columnsTried = false;
     const unsigned hw = m_width / 2, hh = m_height / 2;
     if (m_width == 0 || m_height == 0 || m_width > columns || m_height > rows || 2ull * hw >= columns ||
         2ull * hh >= rows)
@@ -35,13 +38,15 @@ bool MedianFilter::setImage(const std::uint32_t* pixels, unsigned rows, unsigned
     return true;
 }
 
-void MedianFilter::filterRow(unsigned y, std::uint32_t* dst) const
+void MedianFilter::filterRow(unsigned y, std::uint32_t* dst)
 {
     const unsigned count = m_width * m_height;
     if (count == 9)
         networkRow(y, dst);
     else if (count <= largestGatheredWindow)
         gatheredRow(y, dst);
+    else if (useColumnHistograms())
+        columnHistogramRow(y, dst);
     else
         histogramRow(y, dst);
 }
@@ -214,6 +219,182 @@ void MedianFilter::histogramRow(unsigned y, std::uint32_t* dst) const
             }
         }
     }
+}
+
+// --- column histograms ---------------------------------------------------------
+
+namespace {
+
+const std::size_t kColumnStride = 256 + 16;
+
+// The window's histogram in two levels, for one plane along one row. The
+// coarse counts are always current; a fine segment of 16 bins is brought to
+// the window's position only when a query needs it.
+struct TwoLevelHistogram {
+    std::uint16_t coarse[16];
+    std::uint16_t fine[256];
+    long long segmentAt[16];
+    const std::uint16_t* columns;  // the columns' counts, kColumnStride apart
+    unsigned width;
+
+    void start()
+    {
+        std::memset(coarse, 0, sizeof coarse);
+        for (unsigned c = 0; c < width; ++c) {
+            const std::uint16_t* col = columns + c * kColumnStride + 256;
+            for (unsigned j = 0; j < 16; ++j)
+                coarse[j] += col[j];
+        }
+        for (long long& s : segmentAt)
+            s = -1;
+        level = 8;
+        for (unsigned& l : fineLevel)
+            l = 8;
+    }
+    // From the window at x - 1 to the window at x.
+    void step(std::size_t x)
+    {
+        const std::uint16_t* in = columns + (x - 1 + width) * kColumnStride + 256;
+        const std::uint16_t* out = columns + (x - 1) * kColumnStride + 256;
+        for (unsigned j = 0; j < 16; ++j)
+            coarse[j] += std::uint16_t(in[j] - out[j]);
+    }
+    void refresh(unsigned s, std::size_t x)
+    {
+        std::uint16_t* f = fine + 16 * s;
+        const long long at = segmentAt[s];
+        if (at == (long long)x)
+            return;
+        if (at >= 0 && 2 * (x - std::size_t(at)) < width) {
+            for (std::size_t p = std::size_t(at); p < x; ++p) {
+                const std::uint16_t* in = columns + (p + width) * kColumnStride + 16 * s;
+                const std::uint16_t* out = columns + p * kColumnStride + 16 * s;
+                for (unsigned j = 0; j < 16; ++j)
+                    f[j] += std::uint16_t(in[j] - out[j]);
+            }
+        } else {
+            std::memset(f, 0, 16 * sizeof(std::uint16_t));
+            for (std::size_t c = x; c < x + width; ++c) {
+                const std::uint16_t* col = columns + c * kColumnStride + 16 * s;
+                for (unsigned j = 0; j < 16; ++j)
+                    f[j] += col[j];
+            }
+        }
+        segmentAt[s] = (long long)x;
+    }
+    // The value of rank k (0-based) in the window at x. The walk starts from
+    // where the last query ended: the median moves little from one window
+    // to the next.
+    unsigned rank(std::uint32_t k, std::size_t x)
+    {
+        std::uint32_t before = countBelow(coarse, level);
+        while (before > k)
+            before -= coarse[--level];
+        while (before + coarse[level] <= k)
+            before += coarse[level++];
+        refresh(level, x);
+        const std::uint16_t* f = fine + 16 * level;
+        const std::uint32_t kk = k - before;
+        unsigned& fl = fineLevel[level];
+        std::uint32_t below = countBelow(f, fl);
+        while (below > kk)
+            below -= f[--fl];
+        while (below + f[fl] <= kk)
+            below += f[fl++];
+        return 16 * level + fl;
+    }
+    // The sum of the first `end` of 16 counts, without branches.
+    static std::uint32_t countBelow(const std::uint16_t* counts, unsigned end)
+    {
+        std::uint32_t sum = 0;
+        for (unsigned j = 0; j < 16; ++j)
+            sum += j < end ? counts[j] : 0u;
+        return sum;
+    }
+    // Where the last walks ended: the coarse bin, and in each segment the
+    // fine bin.
+    unsigned level = 8;
+    unsigned fineLevel[16];
+};
+
+} // namespace
+
+bool MedianFilter::useColumnHistograms()
+{
+    const unsigned count = m_width * m_height;
+    if (m_height < lowestColumnWindow || count > 65535)
+        return false;
+    if (!m_columnsTried) {
+        m_columnsTried = true;
+        // Wide images would need too much memory; they stay on the running
+        // histogram.
+        if (m_columns <= 65536) {
+            m_columnCounts.reset(new (std::nothrow) std::uint16_t[3 * std::size_t(m_columns) * kColumnStride]);
+            m_rowMedians.reset(new (std::nothrow) std::uint8_t[3 * std::size_t(m_outColumns)]);
+            if (!m_rowMedians)
+                m_columnCounts.reset();
+        }
+    }
+    return m_columnCounts != nullptr;
+}
+
+void MedianFilter::moveColumnHistograms(unsigned y)
+{
+    const std::size_t w = m_columns, n = w * m_rows;
+    const bool slide = m_columnRow >= 0 && (unsigned long long)(m_columnRow + 1) == y;
+    for (unsigned plane = 0; plane < 3; ++plane) {
+        const std::uint8_t* p = m_planes.get() + plane * n;
+        std::uint16_t* counts = m_columnCounts.get() + plane * w * kColumnStride;
+        if (slide) {
+            // Row y - 1 leaves the window, row y + height - 1 enters.
+            const std::uint8_t* leaving = p + std::size_t(y - 1) * w;
+            const std::uint8_t* entering = p + std::size_t(y + m_height - 1) * w;
+            for (std::size_t c = 0; c < w; ++c) {
+                std::uint16_t* col = counts + c * kColumnStride;
+                --col[leaving[c]];
+                --col[256 + (leaving[c] >> 4)];
+                ++col[entering[c]];
+                ++col[256 + (entering[c] >> 4)];
+            }
+        } else {
+            std::memset(counts, 0, sizeof(std::uint16_t) * w * kColumnStride);
+            for (unsigned r = 0; r < m_height; ++r) {
+                const std::uint8_t* row = p + std::size_t(y + r) * w;
+                for (std::size_t c = 0; c < w; ++c) {
+                    std::uint16_t* col = counts + c * kColumnStride;
+                    ++col[row[c]];
+                    ++col[256 + (row[c] >> 4)];
+                }
+            }
+        }
+    }
+    m_columnRow = y;
+}
+
+void MedianFilter::columnHistogramRow(unsigned y, std::uint32_t* dst)
+{
+    moveColumnHistograms(y);
+    const std::size_t w = m_columns;
+    const std::uint32_t count = m_width * m_height, mid = (count - 1) / 2;
+    const std::uint32_t* alpha = m_pixels + (y + m_height / 2) * w + m_width / 2;
+    TwoLevelHistogram h;
+    h.width = m_width;
+    for (unsigned plane = 0; plane < 3; ++plane) {
+        h.columns = m_columnCounts.get() + plane * w * kColumnStride;
+        h.start();
+        std::uint8_t* out = m_rowMedians.get() + plane * std::size_t(m_outColumns);
+        for (std::size_t x = 0; x < m_outColumns; ++x) {
+            if (x > 0)
+                h.step(x);
+            const unsigned lower = h.rank(mid, x);
+            out[x] = std::uint8_t(count % 2 ? lower : (lower + h.rank(mid + 1, x) + 1) / 2);
+        }
+    }
+    const std::uint8_t* red = m_rowMedians.get();
+    const std::uint8_t* green = red + m_outColumns;
+    const std::uint8_t* blue = green + m_outColumns;
+    for (std::size_t x = 0; x < m_outColumns; ++x)
+        dst[x] = pack(red[x], green[x], blue[x], alpha[x]);
 }
 
 } // namespace imageKernels

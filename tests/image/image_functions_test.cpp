@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "image_test_support.h"
@@ -377,4 +378,49 @@ TEST(ImageFunctions, EveryRowByNumberAndTinyImages)
     // host's rows.
     for (NodeType id : {nt_ImageRead, nt_ImageCapture, nt_ImageRotate, nt_ImageScale, nt_ImageMirror, nt_ImageShear})
         EXPECT_TRUE(callFunction(&m, id, std::vector<vhValue>(numberOfFunctionArguments(id), d(1))).isNull()) << id;
+}
+
+namespace {
+
+// The median filter by sorting each window.
+std::vector<unsigned> sortedWindowMedians(const std::vector<unsigned>& p, unsigned rows, unsigned columns, unsigned w,
+                                          unsigned h)
+{
+    const unsigned outRows = rows - 2 * (h / 2), outColumns = columns - 2 * (w / 2), n = w * h;
+    std::vector<unsigned> out;
+    std::vector<unsigned> v(n);
+    for (unsigned y = 0; y < outRows; ++y)
+        for (unsigned x = 0; x < outColumns; ++x) {
+            unsigned pixel = p[(y + h / 2) * columns + x + w / 2] & 0xFF000000u;
+            for (unsigned shift : {0u, 8u, 16u}) {
+                for (unsigned r = 0; r < h; ++r)
+                    for (unsigned c = 0; c < w; ++c)
+                        v[r * w + c] = (p[(y + r) * columns + x + c] >> shift) & 255u;
+                std::sort(v.begin(), v.end());
+                pixel |= ((v[(n - 1) / 2] + v[n / 2] + 1) / 2) << shift;
+            }
+            out.push_back(pixel);
+        }
+    return out;
+}
+
+} // namespace
+
+TEST(ImageFunctions, LargeMedianWindowsAgreeWithSorting)
+{
+    vhMath m;
+    // Few channel levels make many ties.
+    std::vector<unsigned> p = randomPixels(45 * 70, 30);
+    for (std::size_t i = 0; i < p.size(); i += 3)
+        p[i] &= 0xFF030303u;
+    const vhValue image = makeImage(p, 45, 70);
+    // Low and tall, odd and even windows; more than 65535 values below.
+    const unsigned sizes[][2] = {{40, 3}, {33, 2}, {31, 31}, {9, 40}, {12, 12}, {70, 13}, {2, 45}, {64, 44}};
+    for (const auto& s : sizes) {
+        const vhValue r = m.ImageMedian_f(image, pair(s[0], s[1]));
+        EXPECT_EQ(sortedWindowMedians(p, 45, 70, s[0], s[1]), pixelsOf(r)) << s[0] << " x " << s[1];
+    }
+    const std::vector<unsigned> big = randomPixels(258 * 260, 31);
+    EXPECT_EQ(sortedWindowMedians(big, 258, 260, 257, 256),
+              pixelsOf(m.ImageMedian_f(makeImage(big, 258, 260), pair(257, 256))));
 }

@@ -46,7 +46,7 @@ KERNELS = dict(FIXED)
 KERNELS["random1"] = eighths(+1)
 KERNELS["random2"] = eighths(-1)  # a negative divisor stands
 
-MEDIAN_SIZES = [(3, 3), (5, 3), (4, 4), (2, 1), (7, 5), (6, 6), (1, 1)]
+MEDIAN_SIZES = [(3, 3), (5, 3), (4, 4), (2, 1), (7, 5), (6, 6), (1, 1), (13, 13), (12, 14)]
 
 
 def random_image(rows, columns, levels=None):
