@@ -30,16 +30,17 @@ constexpr int kMixedKernel = 2;
 // kernel.
 bool transformWith(int kernel, double* re, double* im, std::size_t n, bool inverse)
 {
+    // The inverse of the power-of-two and chirp kernels is the forward one
+    // with the real and imaginary parts swapped on both sides.
     if (kernel == kChirpKernel) {
         if (isPowerOfTwo(n))
-            inverse ? fourier::radix2Inverse(re, im, n) : fourier::radix2(re, im, n);
+            inverse ? fourier::radix2Plan(n)->transform(im, re) : fourier::radix2Plan(n)->transform(re, im);
         else
-            inverse ? fourier::bluesteinInverse(re, im, n) : fourier::bluestein(re, im, n);
+            inverse ? fourier::bluesteinPlan(n)->transform(im, re) : fourier::bluesteinPlan(n)->transform(re, im);
         return true;
     }
     if (kernel == kMixedKernel) {
-        fourier::MixedRadix plan(n, inverse);
-        plan.transform(re, im);
+        fourier::mixedRadixPlan(n, inverse)->transform(re, im);
         return true;
     }
     return false;
