@@ -44,14 +44,13 @@ bool forwardTransform(vhMath& math, double* re, double* im, std::size_t n)
     const int kernel = math.FFTChoose(static_cast<unsigned int>(n));
     if (kernel == 1) {
         if ((n & (n - 1)) == 0)
-            fourier::radix2(re, im, n);
+            fourier::radix2Plan(n)->transform(re, im);
         else
-            fourier::bluestein(re, im, n);
+            fourier::bluesteinPlan(n)->transform(re, im);
         return true;
     }
     if (kernel == 2) {
-        fourier::MixedRadix plan(n, false);
-        plan.transform(re, im);
+        fourier::mixedRadixPlan(n, false)->transform(re, im);
         return true;
     }
     return false;

@@ -66,36 +66,42 @@ void unitRoots(std::size_t n, std::size_t count, int sign, double* re, double* i
             c[k] = -c[half - k];
             s[k] = s[half - k];
         }
-    for (std::size_t k = 0; k < count; ++k) {
-        const std::size_t j = k % n;
-        double cr, si;
-        if (j <= half) {
-            cr = c[j];
-            si = s[j];
-        } else {
-            cr = c[n - j];
-            si = -s[n - j];
-        }
-        re[k] = cr;
-        im[k] = sign < 0 ? -si : si;
+    const double flip = sign < 0 ? -1.0 : 1.0;
+    const std::size_t first = std::min(count, half + 1);
+    for (std::size_t k = 0; k < first; ++k) {
+        re[k] = c[k];
+        im[k] = flip * s[k];
+    }
+    for (std::size_t k = first; k < count && k < n; ++k) {
+        re[k] = c[n - k];
+        im[k] = -flip * s[n - k];
     }
 }
 
-void radix2(double* re, double* im, std::size_t n)
+Radix2::Radix2(std::size_t n) : m_n(n), m_bits(log2Of(n))
 {
     if (n < 2)
         return;
-    const unsigned int bits = log2Of(n);
+    m_cos.resize(n / 2);
+    m_sin.resize(n / 2);
+    unitRoots(n, n / 2, 1, m_cos.data(), m_sin.data());
+}
+
+void Radix2::transform(double* re, double* im) const
+{
+    const std::size_t n = m_n;
+    if (n < 2)
+        return;
     for (std::size_t i = 0; i < n; ++i) {
-        const std::size_t r = reverseBits(static_cast<std::uint32_t>(i)) >> (32 - bits);
+        const std::size_t r = reverseBits(static_cast<std::uint32_t>(i)) >> (32 - m_bits);
         if (i < r) {
             std::swap(re[i], re[r]);
             std::swap(im[i], im[r]);
         }
     }
-    std::vector<double> cosTable(n / 2), sinTable(n / 2);
-    unitRoots(n, n / 2, 1, cosTable.data(), sinTable.data());
-    // Stages of size 2 and 4 need no multiplications.
+    const double* cosTable = m_cos.data();
+    const double* sinTable = m_sin.data();
+    // The first stage needs no multiplications.
     for (std::size_t j = 0; j < n; j += 2) {
         const double ar = re[j], ai = im[j], br = re[j + 1], bi = im[j + 1];
         re[j] = ar + br;
@@ -106,10 +112,10 @@ void radix2(double* re, double* im, std::size_t n)
     for (std::size_t size = 4; size <= n; size *= 2) {
         const std::size_t half = size / 2, step = n / size;
         for (std::size_t start = 0; start < n; start += size) {
-            double* xr = re + start;
-            double* xi = im + start;
-            double* yr = xr + half;
-            double* yi = xi + half;
+            double* __restrict xr = re + start;
+            double* __restrict xi = im + start;
+            double* __restrict yr = xr + half;
+            double* __restrict yi = xi + half;
             for (std::size_t k = 0; k < half; ++k) {
                 // t = x[k + half] * conj(w)
                 const double wr = cosTable[k * step], wi = sinTable[k * step];
@@ -124,52 +130,72 @@ void radix2(double* re, double* im, std::size_t n)
     }
 }
 
-void bluestein(double* re, double* im, std::size_t n)
+void radix2(double* re, double* im, std::size_t n) { Radix2(n).transform(re, im); }
+
+Bluestein::Bluestein(std::size_t n) : m_n(n), m_m(1)
 {
     if (n < 2)
         return;
-    std::size_t m = 1;
-    while (m < 2 * n - 1)
-        m *= 2;
+    while (m_m < 2 * n - 1)
+        m_m *= 2;
+    m_inner = std::make_shared<MixedRadix>(m_m, false);
     // The chirp exp(-pi i k^2 / n) = exp(-2 pi i (k^2 mod 2n) / 2n), with
     // the square reduced in integers so that large k lose no accuracy.
     std::vector<double> rootRe(2 * n), rootIm(2 * n);
     unitRoots(2 * n, 2 * n, -1, rootRe.data(), rootIm.data());
-    std::vector<double> chirpRe(n), chirpIm(n);
+    m_chirpRe.resize(n);
+    m_chirpIm.resize(n);
     for (std::size_t k = 0; k < n; ++k) {
         const std::size_t j = static_cast<std::size_t>((std::uint64_t(k) * k) % (2 * std::uint64_t(n)));
-        chirpRe[k] = rootRe[j];
-        chirpIm[k] = rootIm[j];
+        m_chirpRe[k] = rootRe[j];
+        m_chirpIm[k] = rootIm[j];
     }
-    std::vector<double> ar(m, 0.0), ai(m, 0.0), br(m, 0.0), bi(m, 0.0);
-    for (std::size_t k = 0; k < n; ++k) {
-        ar[k] = re[k] * chirpRe[k] - im[k] * chirpIm[k];
-        ai[k] = re[k] * chirpIm[k] + im[k] * chirpRe[k];
-    }
-    // The conjugate chirp, wrapped around so that the circular convolution
-    // of length m is the linear one for the n outputs.
-    br[0] = chirpRe[0];
-    bi[0] = -chirpIm[0];
+    // The spectrum of the conjugate chirp, wrapped around so that the
+    // circular convolution of length m is the linear one for the n outputs.
+    m_spectrumRe.assign(m_m, 0.0);
+    m_spectrumIm.assign(m_m, 0.0);
+    m_spectrumRe[0] = m_chirpRe[0];
+    m_spectrumIm[0] = -m_chirpIm[0];
     for (std::size_t k = 1; k < n; ++k) {
-        br[k] = br[m - k] = chirpRe[k];
-        bi[k] = bi[m - k] = -chirpIm[k];
+        m_spectrumRe[k] = m_spectrumRe[m_m - k] = m_chirpRe[k];
+        m_spectrumIm[k] = m_spectrumIm[m_m - k] = -m_chirpIm[k];
     }
-    radix2(ar.data(), ai.data(), m);
-    radix2(br.data(), bi.data(), m);
+    m_inner->transform(m_spectrumRe.data(), m_spectrumIm.data());
+    m_workRe.resize(m_m);
+    m_workIm.resize(m_m);
+}
+
+void Bluestein::transform(double* re, double* im)
+{
+    const std::size_t n = m_n, m = m_m;
+    if (n < 2)
+        return;
+    double* ar = m_workRe.data();
+    double* ai = m_workIm.data();
+    for (std::size_t k = 0; k < n; ++k) {
+        ar[k] = re[k] * m_chirpRe[k] - im[k] * m_chirpIm[k];
+        ai[k] = re[k] * m_chirpIm[k] + im[k] * m_chirpRe[k];
+    }
+    std::fill(ar + n, ar + m, 0.0);
+    std::fill(ai + n, ai + m, 0.0);
+    m_inner->transform(ar, ai);
     for (std::size_t k = 0; k < m; ++k) {
-        const double r = ar[k] * br[k] - ai[k] * bi[k];
-        const double i = ar[k] * bi[k] + ai[k] * br[k];
+        const double r = ar[k] * m_spectrumRe[k] - ai[k] * m_spectrumIm[k];
+        const double i = ar[k] * m_spectrumIm[k] + ai[k] * m_spectrumRe[k];
         ar[k] = r;
         ai[k] = i;
     }
-    radix2Inverse(ar.data(), ai.data(), m);
+    // The inverse transform: the same kernel with the parts swapped.
+    m_inner->transform(ai, ar);
     const double scale = 1.0 / double(m);
     for (std::size_t k = 0; k < n; ++k) {
         const double cr = ar[k] * scale, ci = ai[k] * scale;
-        re[k] = cr * chirpRe[k] - ci * chirpIm[k];
-        im[k] = cr * chirpIm[k] + ci * chirpRe[k];
+        re[k] = cr * m_chirpRe[k] - ci * m_chirpIm[k];
+        im[k] = cr * m_chirpIm[k] + ci * m_chirpRe[k];
     }
 }
+
+void bluestein(double* re, double* im, std::size_t n) { Bluestein(n).transform(re, im); }
 
 std::vector<std::size_t> factorize(std::size_t n)
 {
@@ -206,17 +232,6 @@ MixedRadix::MixedRadix(std::size_t n, bool inverse) : m_n(n), m_sign(inverse ? 1
         stage.radix = p;
         stage.stride = stride;
         stage.count = length / p;
-        // The twiddle of output t of butterfly j: exp(sign 2 pi i j t / length).
-        if (stage.count > 1) {
-            stage.twiddleRe.resize(stage.count * (p - 1));
-            stage.twiddleIm.resize(stage.count * (p - 1));
-            for (std::size_t j = 0; j < stage.count; ++j)
-                for (std::size_t t = 1; t < p; ++t) {
-                    const std::size_t k = j * t * stride; // below n
-                    stage.twiddleRe[j * (p - 1) + t - 1] = m_rootRe[k];
-                    stage.twiddleIm[j * (p - 1) + t - 1] = m_rootIm[k];
-                }
-        }
         largest = std::max(largest, p);
         m_stages.push_back(std::move(stage));
         stride *= p;
@@ -231,20 +246,40 @@ namespace {
 
 // One stage: count butterflies of radix P over stride consecutive columns.
 // Input r of butterfly j, column q is x[q + stride (j + r count)]; its
-// output t goes, times the twiddle, to y[q + stride (P j + t)].
+// output t goes, times the twiddle exp(sign 2 pi i j t stride / n) from the
+// roots table, to y[q + stride (P j + t)]. The columns are the inner loop,
+// so that later stages run over long runs of consecutive elements.
 template <std::size_t P, class Butterfly>
-void runStage(const double* xr, const double* xi, double* yr, double* yi, std::size_t stride, std::size_t count,
-              const double* twr, const double* twi, Butterfly butterfly)
+void runStage(const double* __restrict xr, const double* __restrict xi, double* __restrict yr,
+              double* __restrict yi, std::size_t stride, std::size_t count, const double* rootRe,
+              const double* rootIm, Butterfly butterfly)
 {
+    const std::size_t jump = stride * count;
     for (std::size_t j = 0; j < count; ++j) {
-        const double* wr = twr ? twr + (P - 1) * j : nullptr;
-        const double* wi = twi ? twi + (P - 1) * j : nullptr;
-        const bool plain = (j == 0 || !wr);
-        const double* inR = xr + stride * j;
-        const double* inI = xi + stride * j;
-        double* outR = yr + stride * P * j;
-        double* outI = yi + stride * P * j;
-        const std::size_t jump = stride * count;
+        double wr[P], wi[P];
+        for (std::size_t t = 1; t < P; ++t) {
+            wr[t] = rootRe[j * t * stride];
+            wi[t] = rootIm[j * t * stride];
+        }
+        const double* __restrict inR = xr + stride * j;
+        const double* __restrict inI = xi + stride * j;
+        double* __restrict outR = yr + stride * P * j;
+        double* __restrict outI = yi + stride * P * j;
+        if (j == 0) {
+            for (std::size_t q = 0; q < stride; ++q) {
+                double ar[P], ai[P], br[P], bi[P];
+                for (std::size_t r = 0; r < P; ++r) {
+                    ar[r] = inR[q + r * jump];
+                    ai[r] = inI[q + r * jump];
+                }
+                butterfly(ar, ai, br, bi);
+                for (std::size_t t = 0; t < P; ++t) {
+                    outR[q + stride * t] = br[t];
+                    outI[q + stride * t] = bi[t];
+                }
+            }
+            continue;
+        }
         for (std::size_t q = 0; q < stride; ++q) {
             double ar[P], ai[P], br[P], bi[P];
             for (std::size_t r = 0; r < P; ++r) {
@@ -254,16 +289,9 @@ void runStage(const double* xr, const double* xi, double* yr, double* yi, std::s
             butterfly(ar, ai, br, bi);
             outR[q] = br[0];
             outI[q] = bi[0];
-            if (plain) {
-                for (std::size_t t = 1; t < P; ++t) {
-                    outR[q + stride * t] = br[t];
-                    outI[q + stride * t] = bi[t];
-                }
-            } else {
-                for (std::size_t t = 1; t < P; ++t) {
-                    outR[q + stride * t] = br[t] * wr[t - 1] - bi[t] * wi[t - 1];
-                    outI[q + stride * t] = br[t] * wi[t - 1] + bi[t] * wr[t - 1];
-                }
+            for (std::size_t t = 1; t < P; ++t) {
+                outR[q + stride * t] = br[t] * wr[t] - bi[t] * wi[t];
+                outI[q + stride * t] = br[t] * wi[t] + bi[t] * wr[t];
             }
         }
     }
@@ -282,8 +310,8 @@ void MixedRadix::transform(double* re, double* im)
     double* yi = m_workIm.data();
     const double sign = double(m_sign);
     for (const Stage& st : m_stages) {
-        const double* twr = st.twiddleRe.empty() ? nullptr : st.twiddleRe.data();
-        const double* twi = st.twiddleIm.empty() ? nullptr : st.twiddleIm.data();
+        const double* twr = m_rootRe.data();
+        const double* twi = m_rootIm.data();
         switch (st.radix) {
         case 2:
             runStage<2>(xr, xi, yr, yi, st.stride, st.count, twr, twi,
@@ -386,11 +414,11 @@ void MixedRadix::transform(double* re, double* im)
                             si += ar[r] * ci[k] + ai[r] * cr[k];
                         }
                         const std::size_t out = q + stride * (p * j + t);
-                        if (t == 0 || j == 0 || !twr) {
+                        if (t == 0 || j == 0) {
                             yr[out] = sr;
                             yi[out] = si;
                         } else {
-                            const double wr = twr[(p - 1) * j + t - 1], wi = twi[(p - 1) * j + t - 1];
+                            const double wr = twr[j * t * stride], wi = twi[j * t * stride];
                             yr[out] = sr * wr - si * wi;
                             yi[out] = sr * wi + si * wr;
                         }
@@ -444,6 +472,59 @@ void danielsonLanczos(double* re, double* im, std::size_t n, bool inverse)
             wi = wi * alpha + t * beta + wi;
         }
     }
+}
+
+namespace {
+
+constexpr std::size_t kKeptLength = std::size_t(1) << 22;
+constexpr std::size_t kKeptPlans = 4;
+
+// The last few plans of one kind, the newest at the end.
+template <class Plan> struct PlanShelf {
+    struct Entry {
+        std::size_t n;
+        bool inverse;
+        std::shared_ptr<Plan> plan;
+    };
+    std::vector<Entry> entries;
+
+    template <class Make> std::shared_ptr<Plan> get(std::size_t n, bool inverse, Make make)
+    {
+        for (std::size_t k = 0; k < entries.size(); ++k)
+            if (entries[k].n == n && entries[k].inverse == inverse) {
+                Entry e = entries[k];
+                entries.erase(entries.begin() + std::ptrdiff_t(k));
+                entries.push_back(e);
+                return e.plan;
+            }
+        std::shared_ptr<Plan> plan = make();
+        if (n <= kKeptLength) {
+            if (entries.size() == kKeptPlans)
+                entries.erase(entries.begin());
+            entries.push_back({n, inverse, plan});
+        }
+        return plan;
+    }
+};
+
+} // namespace
+
+std::shared_ptr<MixedRadix> mixedRadixPlan(std::size_t n, bool inverse)
+{
+    thread_local PlanShelf<MixedRadix> shelf;
+    return shelf.get(n, inverse, [&] { return std::make_shared<MixedRadix>(n, inverse); });
+}
+
+std::shared_ptr<Bluestein> bluesteinPlan(std::size_t n)
+{
+    thread_local PlanShelf<Bluestein> shelf;
+    return shelf.get(n, false, [&] { return std::make_shared<Bluestein>(n); });
+}
+
+std::shared_ptr<Radix2> radix2Plan(std::size_t n)
+{
+    thread_local PlanShelf<Radix2> shelf;
+    return shelf.get(n, false, [&] { return std::make_shared<Radix2>(n); });
 }
 
 } // namespace fourier

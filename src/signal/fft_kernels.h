@@ -14,6 +14,7 @@
 //   trigonometric recurrence; the kernel of the two-dimensional transform.
 
 #include <cstddef>
+#include <memory>
 #include <vector>
 
 namespace VarnholtMath {
@@ -23,11 +24,39 @@ namespace fourier {
 // so that quarter and eighth turns are exact.
 void unitRoots(std::size_t n, std::size_t count, int sign, double* re, double* im);
 
+// The power-of-two kernel with its cosine and sine tables.
+class Radix2 {
+public:
+    explicit Radix2(std::size_t n);
+    void transform(double* re, double* im) const;
+
+private:
+    std::size_t m_n;
+    unsigned int m_bits;
+    std::vector<double> m_cos, m_sin;
+};
+
 void radix2(double* re, double* im, std::size_t n);
 
 // The inverse of radix2, unscaled: the same kernel with the real and
 // imaginary parts swapped on both sides.
 inline void radix2Inverse(double* re, double* im, std::size_t n) { radix2(im, re, n); }
+
+class MixedRadix;
+
+// The chirp kernel with its chirp, the spectrum of the conjugate chirp and
+// the power-of-two transform of the convolution (the mixed-radix kernel,
+// whose stages of 4 are the fastest).
+class Bluestein {
+public:
+    explicit Bluestein(std::size_t n);
+    void transform(double* re, double* im);
+
+private:
+    std::size_t m_n, m_m;
+    std::shared_ptr<MixedRadix> m_inner;
+    std::vector<double> m_chirpRe, m_chirpIm, m_spectrumRe, m_spectrumIm, m_workRe, m_workIm;
+};
 
 void bluestein(double* re, double* im, std::size_t n);
 inline void bluesteinInverse(double* re, double* im, std::size_t n) { bluestein(im, re, n); }
@@ -46,7 +75,6 @@ public:
 private:
     struct Stage {
         std::size_t radix, stride, count; // count butterflies of stride consecutive inputs
-        std::vector<double> twiddleRe, twiddleIm;
     };
     std::size_t m_n;
     int m_sign;
@@ -56,6 +84,13 @@ private:
 };
 
 void danielsonLanczos(double* re, double* im, std::size_t n, bool inverse);
+
+// Plans of the lengths last used in the calling thread, so that repeated
+// transforms of one length build their tables once. A plan is used by one
+// call at a time; lengths above 2^22 are not kept.
+std::shared_ptr<MixedRadix> mixedRadixPlan(std::size_t n, bool inverse);
+std::shared_ptr<Bluestein> bluesteinPlan(std::size_t n);
+std::shared_ptr<Radix2> radix2Plan(std::size_t n);
 
 } // namespace fourier
 } // namespace VarnholtMath

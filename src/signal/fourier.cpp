@@ -4,6 +4,8 @@
 // transform is unscaled; the inverse divides by the length.
 
 #include <algorithm>
+#include <cmath>
+#include <initializer_list>
 #include <cstring>
 
 #include "frame/math.h"
@@ -30,16 +32,17 @@ constexpr int kMixedKernel = 2;
 // kernel.
 bool transformWith(int kernel, double* re, double* im, std::size_t n, bool inverse)
 {
+    // The inverse of the power-of-two and chirp kernels is the forward one
+    // with the real and imaginary parts swapped on both sides.
     if (kernel == kChirpKernel) {
         if (isPowerOfTwo(n))
-            inverse ? fourier::radix2Inverse(re, im, n) : fourier::radix2(re, im, n);
+            inverse ? fourier::radix2Plan(n)->transform(im, re) : fourier::radix2Plan(n)->transform(re, im);
         else
-            inverse ? fourier::bluesteinInverse(re, im, n) : fourier::bluestein(re, im, n);
+            inverse ? fourier::bluesteinPlan(n)->transform(im, re) : fourier::bluesteinPlan(n)->transform(re, im);
         return true;
     }
     if (kernel == kMixedKernel) {
-        fourier::MixedRadix plan(n, inverse);
-        plan.transform(re, im);
+        fourier::mixedRadixPlan(n, inverse)->transform(re, im);
         return true;
     }
     return false;
@@ -133,21 +136,72 @@ int vhMath::FFTChoose(unsigned int n)
 
 namespace {
 
+using Arguments = std::initializer_list<const vhValue*>;
+
+vhValue held(int id, Arguments arguments)
+{
+    std::vector<vhValue> copies;
+    for (const vhValue* a : arguments)
+        copies.push_back(*a);
+    return elementwise::symbolicCall(id, copies);
+}
+
+// A numeric vector of at least 4 finite entries, transformed in the
+// storage of the result itself: no other copy of the samples is made.
+bool transformInResult(vhMath& math, const vhValue& v, int kernel, bool inverse, vhValue& result)
+{
+    vhValue holder;
+    const vhValue* array = signal::arrayBehind(v, holder);
+    if (!array || !array->isVector() || !array->numericValues())
+        return false;
+    const unsigned int n = array->vectorSize();
+    if (n < 4)
+        return false;
+    const double* inRe = array->numericValues();
+    const double* inIm = array->numericImValues();
+    vhVector out(n, array->matrixRows() == 1, true, true);
+    double* re = out.numericValues();
+    double* im = out.numericImValues();
+    if (!re || !im)
+        return false;
+    std::memcpy(re, inRe, sizeof(double) * n);
+    if (inIm)
+        std::memcpy(im, inIm, sizeof(double) * n);
+    for (unsigned int k = 0; k < n; ++k)
+        if (!std::isfinite(re[k]) || !std::isfinite(im[k]))
+            return true; // result stays undefined
+    if (kernel == 0)
+        kernel = math.FFTChoose(n);
+    if (!transformWith(kernel, re, im, n, inverse))
+        return true;
+    if (inverse)
+        for (unsigned int k = 0; k < n; ++k) {
+            re[k] /= double(n);
+            im[k] /= double(n);
+        }
+    result = std::move(out);
+    return true;
+}
+
 // The one-dimensional transforms share this frame: read, transform with
-// the kernel (0 for FFTChoose's), scale, build.
+// the kernel (0 for FFTChoose's), scale, build. direct, when given, is a
+// vector to transform as it is.
 template <class ReadInput>
-vhValue oneDimensional(vhMath& math, int id, const std::vector<vhValue>& arguments, int kernel, bool inverse,
+vhValue oneDimensional(vhMath& math, int id, Arguments arguments, const vhValue* direct, int kernel, bool inverse,
                        ReadInput read)
 {
-    for (const vhValue& a : arguments)
-        if (a.isNull())
+    for (const vhValue* a : arguments)
+        if (a->isNull())
             return vhValue();
-    if (arguments[0].isSymbolic())
-        return elementwise::symbolicCall(id, arguments);
+    if ((*arguments.begin())->isSymbolic())
+        return held(id, arguments);
+    vhValue result;
+    if (direct && transformInResult(math, *direct, kernel, inverse, result))
+        return result;
     Samples s;
     const Read r = read(s);
     if (r == Read::held)
-        return elementwise::symbolicCall(id, arguments);
+        return held(id, arguments);
     const std::size_t n = s.re.size();
     if (r != Read::ok || n < 4)
         return vhValue();
@@ -164,39 +218,39 @@ vhValue oneDimensional(vhMath& math, int id, const std::vector<vhValue>& argumen
 
 vhValue vhMath::FFT1_f(const vhValue& v)
 {
-    return oneDimensional(*this, nt_FFT1, {v}, 0, false, [&](Samples& s) { return readVector(v, s); });
+    return oneDimensional(*this, nt_FFT1, {&v}, &v, 0, false, [&](Samples& s) { return readVector(v, s); });
 }
 
 vhValue vhMath::FFTI1_f(const vhValue& v)
 {
-    return oneDimensional(*this, nt_FFTI1, {v}, 0, true, [&](Samples& s) { return readVector(v, s); });
+    return oneDimensional(*this, nt_FFTI1, {&v}, &v, 0, true, [&](Samples& s) { return readVector(v, s); });
 }
 
 vhValue vhMath::FFT1M_f(const vhValue& v)
 {
-    return oneDimensional(*this, nt_FFT1, {v}, kChirpKernel, false, [&](Samples& s) { return readVector(v, s); });
+    return oneDimensional(*this, nt_FFT1, {&v}, &v, kChirpKernel, false, [&](Samples& s) { return readVector(v, s); });
 }
 
 vhValue vhMath::FFT1Old_f(const vhValue& v)
 {
-    return oneDimensional(*this, nt_FFT1, {v}, kMixedKernel, false, [&](Samples& s) { return readVector(v, s); });
+    return oneDimensional(*this, nt_FFT1, {&v}, &v, kMixedKernel, false, [&](Samples& s) { return readVector(v, s); });
 }
 
 vhValue vhMath::FFT1N_f(const vhValue& v, const vhValue& n)
 {
-    return oneDimensional(*this, nt_FFT1N, {v, n}, 0, false,
+    return oneDimensional(*this, nt_FFT1N, {&v, &n}, nullptr, 0, false,
                           [&](Samples& s) { return readResizedVector(v, n, s); });
 }
 
 vhValue vhMath::FFTI1N_f(const vhValue& v, const vhValue& n)
 {
-    return oneDimensional(*this, nt_FFTI1N, {v, n}, 0, true,
+    return oneDimensional(*this, nt_FFTI1N, {&v, &n}, nullptr, 0, true,
                           [&](Samples& s) { return readResizedVector(v, n, s); });
 }
 
 vhValue vhMath::FFTShift_f(const vhValue& v)
 {
-    return oneDimensional(*this, nt_FFTShift, {v}, 0, false, [&](Samples& s) {
+    return oneDimensional(*this, nt_FFTShift, {&v}, nullptr, 0, false, [&](Samples& s) {
         const Read r = readVector(v, s);
         if (r != Read::ok)
             return r;
@@ -250,18 +304,17 @@ bool twoDimensional(vhMath& math, Samples& s, bool inverse)
 }
 
 template <class ReadInput>
-vhValue twoDimensionalCall(vhMath& math, int id, const std::vector<vhValue>& arguments, bool inverse,
-                           ReadInput read)
+vhValue twoDimensionalCall(vhMath& math, int id, Arguments arguments, bool inverse, ReadInput read)
 {
-    for (const vhValue& a : arguments)
-        if (a.isNull())
+    for (const vhValue* a : arguments)
+        if (a->isNull())
             return vhValue();
-    if (arguments[0].isSymbolic())
-        return elementwise::symbolicCall(id, arguments);
+    if ((*arguments.begin())->isSymbolic())
+        return held(id, arguments);
     Samples s;
     const Read r = read(s);
     if (r == Read::held)
-        return elementwise::symbolicCall(id, arguments);
+        return held(id, arguments);
     if (r != Read::ok || s.rows < 4 || s.columns < 4 || !twoDimensional(math, s, inverse))
         return vhValue();
     return signal::complexMatrix(s.re.data(), s.im.data(), s.rows, s.columns);
@@ -271,23 +324,23 @@ vhValue twoDimensionalCall(vhMath& math, int id, const std::vector<vhValue>& arg
 
 vhValue vhMath::FFT2_f(const vhValue& m)
 {
-    return twoDimensionalCall(*this, nt_FFT2, {m}, false, [&](Samples& s) { return readMatrix(m, s); });
+    return twoDimensionalCall(*this, nt_FFT2, {&m}, false, [&](Samples& s) { return readMatrix(m, s); });
 }
 
 vhValue vhMath::FFTI2_f(const vhValue& m)
 {
-    return twoDimensionalCall(*this, nt_FFTI2, {m}, true, [&](Samples& s) { return readMatrix(m, s); });
+    return twoDimensionalCall(*this, nt_FFTI2, {&m}, true, [&](Samples& s) { return readMatrix(m, s); });
 }
 
 vhValue vhMath::FFT2N_f(const vhValue& m, const vhValue& rows, const vhValue& columns)
 {
-    return twoDimensionalCall(*this, nt_FFT2N, {m, rows, columns}, false,
+    return twoDimensionalCall(*this, nt_FFT2N, {&m, &rows, &columns}, false,
                               [&](Samples& s) { return readResizedMatrix(m, rows, columns, s); });
 }
 
 vhValue vhMath::FFTI2N_f(const vhValue& m, const vhValue& rows, const vhValue& columns)
 {
-    return twoDimensionalCall(*this, nt_FFTI2N, {m, rows, columns}, true,
+    return twoDimensionalCall(*this, nt_FFTI2N, {&m, &rows, &columns}, true,
                               [&](Samples& s) { return readResizedMatrix(m, rows, columns, s); });
 }
 
