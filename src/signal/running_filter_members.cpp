@@ -24,6 +24,11 @@ bool readSlot(const vhValue& v, int& slot)
     return readWhole(v, slot) && slot >= 0 && slot < static_cast<int>(vhMath::filterSlots);
 }
 
+// The largest slot array, 2^27 doubles (1 GiB): a larger request answers
+// false like a failed allocation, instead of zeroing memory the machine may
+// not have.
+constexpr std::int64_t kMaximumSlotEntries = std::int64_t(1) << 27;
+
 bool validSlot(int slot) { return slot >= 0 && slot < static_cast<int>(vhMath::filterSlots); }
 
 } // namespace
@@ -44,7 +49,7 @@ vhValue vhMath::InitFIRFilter_f(const vhValue& slot, const vhValue& blockSize, c
     // History and block share one array of block + taps - 1 entries, counted
     // in a signed 32-bit size.
     const std::int64_t entries = std::int64_t(block) + std::int64_t(t) - 1;
-    if (entries > 2147483647)
+    if (entries > 2147483647 || entries > kMaximumSlotEntries)
         return vhBoolean(false);
     double* buffer = new (std::nothrow) double[static_cast<std::size_t>(entries)]();
     if (!buffer)
@@ -83,6 +88,8 @@ vhValue vhMath::InitIIRFilter_f(const vhValue& slot, const vhValue& taps)
     int t = 0;
     if (!readWhole(taps, t) || t <= 0)
         return vhValue();
+    if (t > kMaximumSlotEntries)
+        return vhBoolean(false);
     double* state = new (std::nothrow) double[static_cast<std::size_t>(t)]();
     if (!state)
         return vhBoolean(false);

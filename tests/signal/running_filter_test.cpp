@@ -120,6 +120,10 @@ TEST(RunningFilters, RefusedSlotsAndValues)
     EXPECT_TRUE(overflow.isBoolean());
     EXPECT_FALSE(overflow.toBool());
     EXPECT_EQ(m.firFilterBuffer(0), nullptr);
+    // So does a size beyond what a slot may take.
+    EXPECT_FALSE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2147483647)).toBool());
+    EXPECT_FALSE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2147483647)).isNull());
+    EXPECT_EQ(m.iirFilterBuffer(0), nullptr);
     ASSERT_TRUE(m.InitFIRFilter_f(vhInteger(0), vhInteger(4), vhInteger(2)).toBool());
     ASSERT_TRUE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2)).toBool());
     EXPECT_TRUE(m.FIRFilter_f(vhInteger(0), vhSymbolicValue("x", true, {}), x).isNull());
