@@ -25,15 +25,16 @@ bool readOmega(const vhValue& v, double& omega) { return readFinite(v, omega) &&
 
 vhValue vhMath::FIRFreqResponse_f(const vhValue& coefficients, const vhValue& size, const vhValue& omega)
 {
-    std::vector<double> b;
+    RealView b;
     int n = 0;
     double w = 0.0;
-    if (!readRealVector(coefficients, b) || !readSize(size, n) || !readOmega(omega, w))
+    if (!viewRealVector(coefficients, b) || !readSize(size, n) || !readOmega(omega, w))
         return vhValue();
-    std::vector<double> out(static_cast<std::size_t>(n));
-    if (!firMagnitude(b.data(), b.size(), out.size(), w, out.data(), StopPoll{pollStop, this}))
+    double* out = nullptr;
+    vhValue result = newNumericVector(std::size_t(n), false, out);
+    if (!out || !firMagnitude(b.data, b.size, std::size_t(n), w, out, StopPoll{pollStop, this}))
         return vhValue();
-    return numericVector(out.data(), out.size(), false);
+    return result;
 }
 
 vhValue vhMath::IIRFreqResponse_f(const vhValue& denominator, const vhValue& numerator, const vhValue& size,

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "frame/math.h"
@@ -64,17 +65,18 @@ vhValue vhMath::FIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
     int s = 0;
     if (!readSlot(slot, s) || !m_firFilterBuffers[s])
         return vhValue();
-    std::vector<double> x;
-    std::vector<double> h;
-    if (!readRealVector(block, x) || !readRealVector(coefficients, h))
+    RealView x;
+    RealView h;
+    if (!viewRealVector(block, x) || !viewRealVector(coefficients, h))
         return vhValue();
-    if (std::uint64_t(x.size()) + h.size() - 1 > m_firFilterBufferSizes[s])
+    if (std::uint64_t(x.size) + h.size - 1 > m_firFilterBufferSizes[s])
         return vhValue();
-    std::vector<double> y(x.size());
+    double* y = nullptr;
+    vhValue result = newNumericVector(x.size, block.isRowVector(), y);
     const StopPoll poll{pollStop, this};
-    if (!firFilterBlock(m_firFilterBuffers[s], x.data(), x.size(), h.data(), h.size(), y.data(), poll))
+    if (!y || !firFilterBlock(m_firFilterBuffers[s], x.data, x.size, h.data, h.size, y, poll))
         return vhValue();
-    return numericVector(y.data(), y.size(), block.isRowVector());
+    return result;
 }
 
 vhValue vhMath::InitIIRFilter_f(const vhValue& slot, const vhValue& taps)
@@ -104,18 +106,19 @@ vhValue vhMath::IIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
     int s = 0;
     if (!readSlot(slot, s) || !m_iirFilterBuffers[s])
         return vhValue();
-    std::vector<double> x;
-    std::vector<double> a;
-    std::vector<double> b;
-    if (!readRealVector(block, x) || !readRealVector(denominator, a) || !readRealVector(numerator, b))
+    RealView x;
+    RealView a;
+    RealView b;
+    if (!viewRealVector(block, x) || !viewRealVector(denominator, a) || !viewRealVector(numerator, b))
         return vhValue();
-    if (a.size() != b.size() || a.size() > m_iirFilterBufferSizes[s])
+    if (a.size != b.size || a.size > m_iirFilterBufferSizes[s])
         return vhValue();
-    std::vector<double> y(x.size());
+    double* y = nullptr;
+    vhValue result = newNumericVector(x.size, block.isRowVector(), y);
     const StopPoll poll{pollStop, this};
-    if (!iirFilterBlock(m_iirFilterBuffers[s], x.data(), x.size(), a.data(), b.data(), a.size(), y.data(), poll))
+    if (!y || !iirFilterBlock(m_iirFilterBuffers[s], x.data, x.size, a.data, b.data, a.size, y, poll))
         return vhValue();
-    return numericVector(y.data(), y.size(), block.isRowVector());
+    return result;
 }
 
 const double* vhMath::firFilterBuffer(int slot) const { return validSlot(slot) ? m_firFilterBuffers[slot] : nullptr; }
@@ -136,7 +139,9 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
 {
     if (x.isNull() || window.isNull())
         return vhValue();
-    const vhValue v = expressionToValue(x);
+    // A one-term expression is unwrapped (a copy); an array is read in place.
+    const vhValue unwrapped = x.valueType() == tagExpression ? expressionToValue(x) : vhValue();
+    const vhValue& v = x.valueType() == tagExpression ? unwrapped : x;
     const bool matrix = v.valueType() == tagMatrix;
     if (v.valueType() != tagVector && !matrix)
         return vhValue();
@@ -146,26 +151,31 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
     int w = 0;
     if (total == 0 || !readWhole(window, w) || w <= 0 || w % 2 == 0 || std::size_t(w) > total)
         return vhValue();
-    std::vector<double> data;
+    std::vector<double> storage;
+    const double* data = nullptr;
     if (v.isNumericVectorOrMatrix()) {
         if (v.numericImValues() || v.size() != total)
             return vhValue();
-        data.assign(v.numericValues(), v.numericValues() + total);
+        data = v.numericValues();
     } else {
         if (v.isImage() || v.size() != total)
             return vhValue();
-        data.resize(total);
+        storage.resize(total);
         for (std::size_t i = 0; i < total; ++i) {
             const vhValue e = v.value(static_cast<unsigned int>(i));
             if (!e.isDouble())
                 return vhValue();
-            data[i] = e.toDouble();
+            storage[i] = e.toDouble();
         }
+        data = storage.data();
     }
     if (!matrix) {
-        std::vector<double> y(total);
-        movingAverage(data.data(), total, std::size_t(w), y.data());
-        return numericVector(y.data(), total, v.isRowVector());
+        double* y = nullptr;
+        vhValue result = newNumericVector(total, v.isRowVector(), y);
+        if (!y)
+            return vhValue();
+        movingAverage(data, total, std::size_t(w), y);
+        return result;
     }
     // A matrix is smoothed row by row.
     vhMatrix r(rows, columns, true, false, false);
@@ -173,8 +183,8 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
     if (!out)
         return vhValue();
     for (unsigned int i = 0; i < rows; ++i)
-        movingAverage(data.data() + std::size_t(i) * columns, columns, std::size_t(w), out + std::size_t(i) * columns);
-    return r;
+        movingAverage(data + std::size_t(i) * columns, columns, std::size_t(w), out + std::size_t(i) * columns);
+    return vhValue(std::move(r));
 }
 
 vhValue vhMath::LMSAdaptive_f(const vhValue& desired, const vhValue& input, const vhValue& mu, const vhValue& length)

@@ -19,6 +19,19 @@ namespace signal {
 // storage refuse. NaN and infinities are read as they are.
 bool readRealVector(const vhValue& v, std::vector<double>& out);
 
+// The same without a copy where the storage is numeric: data points into
+// the value's own block (valid while the value lives), or into storage.
+struct RealView {
+    const double* data = nullptr;
+    std::size_t size = 0;
+    std::vector<double> storage;
+};
+bool viewRealVector(const vhValue& v, RealView& view);
+
+// A numeric real vector of n entries, its numbers left for the caller to
+// write through out; undefined (and out null) when it cannot be made.
+vhValue newNumericVector(std::size_t n, bool row, double*& out);
+
 // A finite real number.
 bool readFinite(const vhValue& v, double& out);
 
