@@ -73,8 +73,9 @@ vhValue vhMath::FIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
         return vhValue();
     double* y = nullptr;
     vhValue result = newNumericVector(x.size, block.isRowVector(), y);
-    const StopPoll poll{pollStop, this};
-    if (!y || !firFilterBlock(m_firFilterBuffers[s], x.data, x.size, h.data, h.size, y, poll))
+    bool stopNow = false;
+    const StopPoll poll = loopPoll(*this, x.size * h.size, stopNow);
+    if (stopNow || !y || !firFilterBlock(m_firFilterBuffers[s], x.data, x.size, h.data, h.size, y, poll))
         return vhValue();
     return result;
 }
@@ -115,8 +116,9 @@ vhValue vhMath::IIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
         return vhValue();
     double* y = nullptr;
     vhValue result = newNumericVector(x.size, block.isRowVector(), y);
-    const StopPoll poll{pollStop, this};
-    if (!y || !iirFilterBlock(m_iirFilterBuffers[s], x.data, x.size, a.data, b.data, a.size, y, poll))
+    bool stopNow = false;
+    const StopPoll poll = loopPoll(*this, x.size * a.size, stopNow);
+    if (stopNow || !y || !iirFilterBlock(m_iirFilterBuffers[s], x.data, x.size, a.data, b.data, a.size, y, poll))
         return vhValue();
     return result;
 }

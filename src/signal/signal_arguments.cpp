@@ -97,6 +97,15 @@ bool pollStop(void* math)
     return m->stopCalculation();
 }
 
+StopPoll loopPoll(vhMath& math, std::size_t work, bool& stopNow)
+{
+    stopNow = false;
+    if (!math.isInRuntime())
+        return StopPoll{pollStop, &math};
+    stopNow = work > 1000 && math.stopCalculation();
+    return StopPoll{nullptr, nullptr};
+}
+
 } // namespace signal
 } // namespace ValueTypes
 } // namespace VarnholtMath

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "frame/math.h"
+#include "signal/running_filters.h"
 #include "value/value.h"
 
 namespace VarnholtMath {
@@ -45,6 +46,12 @@ vhValue numericVector(const double* data, std::size_t n, bool row);
 // The stop test of long loops: the host's events run, then its stop flag is
 // read.
 bool pollStop(void* math);
+
+// The poll of a loop of the given work. Without an events callback nothing
+// can set the stop flag while the loop runs, so the flag is read once,
+// before it: stopNow tells that the loop is not to run, and the poll
+// returned asks nothing.
+StopPoll loopPoll(vhMath& math, std::size_t work, bool& stopNow);
 
 } // namespace signal
 } // namespace ValueTypes

@@ -169,6 +169,12 @@ TEST(RunningFilters, StopFromTheEventsCallback)
     EXPECT_TRUE(m.IIRFilter_f(vhInteger(1), column(x), column(h), column(h)).isNull());
     m.setStopCalculation(false);
     m.setAppProcessEventsCallback(nullptr);
+    // Without a callback a flag already set stops the long blocks only.
+    m.setStopCalculation(true);
+    EXPECT_TRUE(m.FIRFilter_f(vhInteger(1), column(x), column(h)).isNull());
+    EXPECT_TRUE(m.IIRFilter_f(vhInteger(1), column(x), column(h), column(h)).isNull());
+    EXPECT_FALSE(m.FIRFilter_f(vhInteger(1), column(slice(x, 0, 10)), column(h)).isNull());
+    m.setStopCalculation(false);
 }
 
 TEST(MovingAverage, MatchesDirectSumsOverWideRanges)
