@@ -684,6 +684,27 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_ellipband:
         result = math->ellipband_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6]);
         break;
+    case nt_FIRFreqResponse:
+        result = math->FIRFreqResponse_f(a[0], a[1], a[2]);
+        break;
+    case nt_IIRFreqResponse:
+        result = math->IIRFreqResponse_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_iirgroupdelay:
+        result = math->iirgroupdelay_f(a[0], a[1], a[2]);
+        break;
+    case nt_iirphasedelay:
+        result = math->iirphasedelay_f(a[0], a[1], a[2]);
+        break;
+    case nt_firopt:
+        result = math->firopt_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6]);
+        break;
+    case nt_firoptord:
+        result = math->firoptord_f(a[0], a[1], a[2], a[3], a[4]);
+        break;
+    case nt_firfreqsampl:
+        result = math->firfreqsampl_f(a[0], a[1], a[2], a[3]);
+        break;
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---

@@ -374,6 +374,20 @@ public:
                         const vhValue& attenuation, const vhValue& rate);
     vhValue ellipband_f(const vhValue& order, const vhValue& kind, const vhValue& lower, const vhValue& upper,
                         const vhValue& ripple, const vhValue& attenuation, const vhValue& rate);
+    // Responses at w_k = k pi omega / size, k < size: magnitudes clipped
+    // below at 1e-12; delays in samples with omega 1.
+    vhValue FIRFreqResponse_f(const vhValue& coefficients, const vhValue& size, const vhValue& omega);
+    vhValue IIRFreqResponse_f(const vhValue& denominator, const vhValue& numerator, const vhValue& size,
+                              const vhValue& omega);
+    vhValue iirgroupdelay_f(const vhValue& denominator, const vhValue& numerator, const vhValue& size);
+    vhValue iirphasedelay_f(const vhValue& denominator, const vhValue& numerator, const vhValue& size);
+    // Equiripple FIR by the Parks-McClellan exchange; type 0 ordinary, 1
+    // differentiator, 2 Hilbert.
+    vhValue firopt_f(const vhValue& length, const vhValue& bands, const vhValue& edges, const vhValue& responses,
+                     const vhValue& weights, const vhValue& type, const vhValue& density);
+    vhValue firoptord_f(const vhValue& passEdge, const vhValue& stopEdge, const vhValue& passRipple,
+                        const vhValue& stopRipple, const vhValue& rate);
+    vhValue firfreqsampl_f(const vhValue& samples, const vhValue& count, const vhValue& type, const vhValue& length);
     // (end of filter design and running filters)
 
     // --- distributions, random numbers, statistics and numeric calculus ---

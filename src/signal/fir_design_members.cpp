@@ -93,8 +93,8 @@ vhValue vhMath::makeWindow_f(const vhValue& name, const vhValue& size)
     int n = 0;
     if (type < 0 || !readOrder(size, n))
         return vhValue();
-    vhVector r(static_cast<unsigned int>(n), false, true, false);
-    double* w = r.numericValues();
+    double* w = nullptr;
+    vhValue r = newNumericVector(static_cast<std::size_t>(n), false, w);
     if (!w || !fillWindow(type, static_cast<std::size_t>(n), w))
         return vhValue();
     return r;

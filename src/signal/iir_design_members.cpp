@@ -3,6 +3,7 @@
 // 0 and the denominator in column 1.
 
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include "frame/math.h"
@@ -82,7 +83,7 @@ vhValue coefficientMatrix(const std::vector<double>& b, const std::vector<double
         out[2 * i] = b[i];
         out[2 * i + 1] = a[i];
     }
-    return m;
+    return vhValue(std::move(m));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdint>
 #include <new>
+#include <utility>
 #include <vector>
 
 #include "frame/math.h"
@@ -23,6 +24,11 @@ bool readSlot(const vhValue& v, int& slot)
 {
     return readWhole(v, slot) && slot >= 0 && slot < static_cast<int>(vhMath::filterSlots);
 }
+
+// The largest slot array, 2^27 doubles (1 GiB): a larger request answers
+// false like a failed allocation, instead of zeroing memory the machine may
+// not have.
+constexpr std::int64_t kMaximumSlotEntries = std::int64_t(1) << 27;
 
 bool validSlot(int slot) { return slot >= 0 && slot < static_cast<int>(vhMath::filterSlots); }
 
@@ -44,7 +50,7 @@ vhValue vhMath::InitFIRFilter_f(const vhValue& slot, const vhValue& blockSize, c
     // History and block share one array of block + taps - 1 entries, counted
     // in a signed 32-bit size.
     const std::int64_t entries = std::int64_t(block) + std::int64_t(t) - 1;
-    if (entries > 2147483647)
+    if (entries > 2147483647 || entries > kMaximumSlotEntries)
         return vhBoolean(false);
     double* buffer = new (std::nothrow) double[static_cast<std::size_t>(entries)]();
     if (!buffer)
@@ -59,17 +65,19 @@ vhValue vhMath::FIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
     int s = 0;
     if (!readSlot(slot, s) || !m_firFilterBuffers[s])
         return vhValue();
-    std::vector<double> x;
-    std::vector<double> h;
-    if (!readRealVector(block, x) || !readRealVector(coefficients, h))
+    RealView x;
+    RealView h;
+    if (!viewRealVector(block, x) || !viewRealVector(coefficients, h))
         return vhValue();
-    if (std::uint64_t(x.size()) + h.size() - 1 > m_firFilterBufferSizes[s])
+    if (std::uint64_t(x.size) + h.size - 1 > m_firFilterBufferSizes[s])
         return vhValue();
-    std::vector<double> y(x.size());
-    const StopPoll poll{pollStop, this};
-    if (!firFilterBlock(m_firFilterBuffers[s], x.data(), x.size(), h.data(), h.size(), y.data(), poll))
+    double* y = nullptr;
+    vhValue result = newNumericVector(x.size, block.isRowVector(), y);
+    bool stopNow = false;
+    const StopPoll poll = loopPoll(*this, x.size * h.size, stopNow);
+    if (stopNow || !y || !firFilterBlock(m_firFilterBuffers[s], x.data, x.size, h.data, h.size, y, poll))
         return vhValue();
-    return numericVector(y.data(), y.size(), block.isRowVector());
+    return result;
 }
 
 vhValue vhMath::InitIIRFilter_f(const vhValue& slot, const vhValue& taps)
@@ -83,6 +91,8 @@ vhValue vhMath::InitIIRFilter_f(const vhValue& slot, const vhValue& taps)
     int t = 0;
     if (!readWhole(taps, t) || t <= 0)
         return vhValue();
+    if (t > kMaximumSlotEntries)
+        return vhBoolean(false);
     double* state = new (std::nothrow) double[static_cast<std::size_t>(t)]();
     if (!state)
         return vhBoolean(false);
@@ -97,18 +107,20 @@ vhValue vhMath::IIRFilter_f(const vhValue& slot, const vhValue& block, const vhV
     int s = 0;
     if (!readSlot(slot, s) || !m_iirFilterBuffers[s])
         return vhValue();
-    std::vector<double> x;
-    std::vector<double> a;
-    std::vector<double> b;
-    if (!readRealVector(block, x) || !readRealVector(denominator, a) || !readRealVector(numerator, b))
+    RealView x;
+    RealView a;
+    RealView b;
+    if (!viewRealVector(block, x) || !viewRealVector(denominator, a) || !viewRealVector(numerator, b))
         return vhValue();
-    if (a.size() != b.size() || a.size() > m_iirFilterBufferSizes[s])
+    if (a.size != b.size || a.size > m_iirFilterBufferSizes[s])
         return vhValue();
-    std::vector<double> y(x.size());
-    const StopPoll poll{pollStop, this};
-    if (!iirFilterBlock(m_iirFilterBuffers[s], x.data(), x.size(), a.data(), b.data(), a.size(), y.data(), poll))
+    double* y = nullptr;
+    vhValue result = newNumericVector(x.size, block.isRowVector(), y);
+    bool stopNow = false;
+    const StopPoll poll = loopPoll(*this, x.size * a.size, stopNow);
+    if (stopNow || !y || !iirFilterBlock(m_iirFilterBuffers[s], x.data, x.size, a.data, b.data, a.size, y, poll))
         return vhValue();
-    return numericVector(y.data(), y.size(), block.isRowVector());
+    return result;
 }
 
 const double* vhMath::firFilterBuffer(int slot) const { return validSlot(slot) ? m_firFilterBuffers[slot] : nullptr; }
@@ -129,7 +141,9 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
 {
     if (x.isNull() || window.isNull())
         return vhValue();
-    const vhValue v = expressionToValue(x);
+    // A one-term expression is unwrapped (a copy); an array is read in place.
+    const vhValue unwrapped = x.valueType() == tagExpression ? expressionToValue(x) : vhValue();
+    const vhValue& v = x.valueType() == tagExpression ? unwrapped : x;
     const bool matrix = v.valueType() == tagMatrix;
     if (v.valueType() != tagVector && !matrix)
         return vhValue();
@@ -139,26 +153,31 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
     int w = 0;
     if (total == 0 || !readWhole(window, w) || w <= 0 || w % 2 == 0 || std::size_t(w) > total)
         return vhValue();
-    std::vector<double> data;
+    std::vector<double> storage;
+    const double* data = nullptr;
     if (v.isNumericVectorOrMatrix()) {
         if (v.numericImValues() || v.size() != total)
             return vhValue();
-        data.assign(v.numericValues(), v.numericValues() + total);
+        data = v.numericValues();
     } else {
         if (v.isImage() || v.size() != total)
             return vhValue();
-        data.resize(total);
+        storage.resize(total);
         for (std::size_t i = 0; i < total; ++i) {
             const vhValue e = v.value(static_cast<unsigned int>(i));
             if (!e.isDouble())
                 return vhValue();
-            data[i] = e.toDouble();
+            storage[i] = e.toDouble();
         }
+        data = storage.data();
     }
     if (!matrix) {
-        std::vector<double> y(total);
-        movingAverage(data.data(), total, std::size_t(w), y.data());
-        return numericVector(y.data(), total, v.isRowVector());
+        double* y = nullptr;
+        vhValue result = newNumericVector(total, v.isRowVector(), y);
+        if (!y)
+            return vhValue();
+        movingAverage(data, total, std::size_t(w), y);
+        return result;
     }
     // A matrix is smoothed row by row.
     vhMatrix r(rows, columns, true, false, false);
@@ -166,8 +185,8 @@ vhValue vhMath::MovingAverage_f(const vhValue& x, const vhValue& window)
     if (!out)
         return vhValue();
     for (unsigned int i = 0; i < rows; ++i)
-        movingAverage(data.data() + std::size_t(i) * columns, columns, std::size_t(w), out + std::size_t(i) * columns);
-    return r;
+        movingAverage(data + std::size_t(i) * columns, columns, std::size_t(w), out + std::size_t(i) * columns);
+    return vhValue(std::move(r));
 }
 
 vhValue vhMath::LMSAdaptive_f(const vhValue& desired, const vhValue& input, const vhValue& mu, const vhValue& length)

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -34,6 +35,33 @@ bool readRealVector(const vhValue& v, std::vector<double>& out)
     return true;
 }
 
+bool viewRealVector(const vhValue& v, RealView& view)
+{
+    if (!v.isNull() && v.isVector() && v.isNumericVectorOrMatrix() && !v.numericImValues()) {
+        view.data = v.numericValues();
+        view.size = v.size();
+        return view.size != 0;
+    }
+    if (!readRealVector(v, view.storage))
+        return false;
+    view.data = view.storage.data();
+    view.size = view.storage.size();
+    return true;
+}
+
+vhValue newNumericVector(std::size_t n, bool row, double*& out)
+{
+    out = nullptr;
+    if (n == 0 || n > 0xffffffffu)
+        return vhValue();
+    vhVector r(static_cast<unsigned int>(n), row, true, false);
+    out = r.numericValues();
+    if (!out)
+        return vhValue();
+    // Moved out: a vector returned as a value would otherwise be copied.
+    return vhValue(std::move(r));
+}
+
 bool readFinite(const vhValue& v, double& out)
 {
     if (v.isNull() || !v.isDouble())
@@ -59,7 +87,7 @@ vhValue numericVector(const double* data, std::size_t n, bool row)
     if (!out)
         return vhValue();
     std::memcpy(out, data, n * sizeof(double));
-    return r;
+    return vhValue(std::move(r));
 }
 
 bool pollStop(void* math)
@@ -67,6 +95,15 @@ bool pollStop(void* math)
     vhMath* m = static_cast<vhMath*>(math);
     m->appProcessEvents();
     return m->stopCalculation();
+}
+
+StopPoll loopPoll(vhMath& math, std::size_t work, bool& stopNow)
+{
+    stopNow = false;
+    if (!math.isInRuntime())
+        return StopPoll{pollStop, &math};
+    stopNow = work > 1000 && math.stopCalculation();
+    return StopPoll{nullptr, nullptr};
 }
 
 } // namespace signal

@@ -120,6 +120,10 @@ TEST(RunningFilters, RefusedSlotsAndValues)
     EXPECT_TRUE(overflow.isBoolean());
     EXPECT_FALSE(overflow.toBool());
     EXPECT_EQ(m.firFilterBuffer(0), nullptr);
+    // So does a size beyond what a slot may take.
+    EXPECT_FALSE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2147483647)).toBool());
+    EXPECT_FALSE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2147483647)).isNull());
+    EXPECT_EQ(m.iirFilterBuffer(0), nullptr);
     ASSERT_TRUE(m.InitFIRFilter_f(vhInteger(0), vhInteger(4), vhInteger(2)).toBool());
     ASSERT_TRUE(m.InitIIRFilter_f(vhInteger(0), vhInteger(2)).toBool());
     EXPECT_TRUE(m.FIRFilter_f(vhInteger(0), vhSymbolicValue("x", true, {}), x).isNull());
@@ -165,6 +169,12 @@ TEST(RunningFilters, StopFromTheEventsCallback)
     EXPECT_TRUE(m.IIRFilter_f(vhInteger(1), column(x), column(h), column(h)).isNull());
     m.setStopCalculation(false);
     m.setAppProcessEventsCallback(nullptr);
+    // Without a callback a flag already set stops the long blocks only.
+    m.setStopCalculation(true);
+    EXPECT_TRUE(m.FIRFilter_f(vhInteger(1), column(x), column(h)).isNull());
+    EXPECT_TRUE(m.IIRFilter_f(vhInteger(1), column(x), column(h), column(h)).isNull());
+    EXPECT_FALSE(m.FIRFilter_f(vhInteger(1), column(slice(x, 0, 10)), column(h)).isNull());
+    m.setStopCalculation(false);
 }
 
 TEST(MovingAverage, MatchesDirectSumsOverWideRanges)

@@ -175,6 +175,22 @@ rows = [
     # (end of images)
 
     # --- filter design and running filters ---
+    ("", 'makeWindow("bartlett", 5)', "data", "[0, 0.5, 1, 0.5, 0]"),
+    ("", 'makeWindow("barlett", 5)', "value", "null"),
+    ("", 'FIRlowpass(100, 1000, 0, 0)', "value", "null"),
+    ("", 'buttlowhigh(2, "high", 100, 1000)', "type", "matrix"),
+    ("", 'InitIIRFilter(0, 3)', "value", "true"),
+    ("", 'InitFIRFilter(64, 4, 2)', "value", "null"),
+    ("", 'MovingAverage([3, 6, 9], 3)', "data", "[3, 6, 5]"),
+    ("", 'LMSAdaptive([1, 2], [1, 1], 0.5, 1)', "text", "[[0, 0.5]]\\n[[1, 1.5]]\\n[[1.25]]"),
+    ("", "iirgroupdelay([1], [0, 0, 1], 3)", "data", "[2, 2, 2]"),
+    # Herrmann, Rabiner and Chan's order for ripples 0.01 and 0.001 over a
+    # transition of 0.05.
+    ("", "firoptord(100, 150, 0.01, 0.001, 1000)", "number",
+     num(((mpmath.mpf("0.005309") * 4 - mpmath.mpf("0.07114") * 2 - mpmath.mpf("0.4761")) * -3
+          - (mpmath.mpf("0.00266") * 4 - mpmath.mpf("0.5941") * 2 + mpmath.mpf("0.4278"))
+          - (mpmath.mpf("0.51244") + mpmath.mpf("11.012")) * mpmath.mpf("0.05") ** 2) / mpmath.mpf("0.05") + 1),
+     "1e-14"),
     # (end of filter design and running filters)
 
     # --- distributions, random numbers, statistics and numeric calculus ---
