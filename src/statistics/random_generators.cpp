@@ -2,8 +2,8 @@
 // must be a finite real number; the parameters of each family must lie in
 // its range (rates, scales, shapes and degrees of freedom above 0,
 // probabilities in their interval); sizes are whole numbers above 0 within
-// the process-wide limit of array elements. Anything else gives the
-// undefined value.
+// the process-wide limit of array elements and at most 2^27 elements.
+// Anything else gives the undefined value.
 //
 // A vector is a column of n numbers drawn in index order; a matrix is
 // filled row by row.
@@ -22,6 +22,11 @@ namespace ValueTypes {
 namespace {
 
 namespace st = VarnholtMath::statistics;
+
+// Random arrays are refused beyond 2^27 elements (1 GiB of doubles), even
+// when the process-wide limit would allow more: a size typed by mistake must
+// not exhaust the memory of the machine.
+constexpr std::uint64_t kMaxRandomElements = std::uint64_t(1) << 27;
 
 template <std::size_t N> bool readParameters(const std::array<const vhValue*, N>& args, std::array<double, N>& v)
 {
@@ -70,7 +75,7 @@ vhValue array(const std::array<const vhValue*, N>& args, const vhValue& rows, co
     std::uint64_t r = 0, c = 1;
     if (!readSize(rows, r) || (columns && !readSize(*columns, c)))
         return vhValue();
-    if (r * c > maximumNumerOfMatrixElements())
+    if (r * c > maximumNumerOfMatrixElements() || r * c > kMaxRandomElements)
         return vhValue();
     vhValue result = columns ? vhValue(vhMatrix(static_cast<unsigned int>(r), static_cast<unsigned int>(c), true,
                                                 false, false))

@@ -243,6 +243,10 @@ TEST(RandomGenerators, ShapesSizesAndParameters)
     EXPECT_TRUE(m.expRandVec_f(d(1.0), vhInteger(0)).isNull());
     EXPECT_TRUE(m.expRandVec_f(d(1.0), d(2.5)).isNull());
     EXPECT_TRUE(m.expRandVec_f(d(1.0), d(1e12)).isNull());
+    EXPECT_TRUE(m.expRandVec_f(d(1.0), vhInteger(2147483647)).isNull());
+    // Huge rates draw in bounded time.
+    EXPECT_TRUE(m.poissonRandNum_f(d(1e300)).isDouble());
+    EXPECT_TRUE(m.poissonRandNum_f(vhInteger(2147483647)).isDouble());
     EXPECT_TRUE(m.uRandMat_f(d(0.0), d(1.0), vhInteger(-3), vhInteger(2)).isNull());
     setMaximumNumerOfMatrixElements(1000);
     EXPECT_TRUE(m.uRandMat_f(d(0.0), d(1.0), vhInteger(100000), vhInteger(100000)).isNull());
