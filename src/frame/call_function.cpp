@@ -948,6 +948,123 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_cauchyinv:
         result = math->cauchyinv_f(a[0], a[1], a[2]);
         break;
+    case nt_uRandNum:
+        result = math->uRandNum_f(a[0], a[1]);
+        break;
+    case nt_uRandVec:
+        result = math->uRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_uRandMat:
+        result = math->uRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_normRandNum:
+        result = math->normRandNum_f(a[0], a[1]);
+        break;
+    case nt_normRandVec:
+        result = math->normRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_normRandMat:
+        result = math->normRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_expRandNum:
+        result = math->expRandNum_f(a[0]);
+        break;
+    case nt_expRandVec:
+        result = math->expRandVec_f(a[0], a[1]);
+        break;
+    case nt_expRandMat:
+        result = math->expRandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_dblexpRandNum:
+        result = math->dblexpRandNum_f(a[0]);
+        break;
+    case nt_dblexpRandVec:
+        result = math->dblexpRandVec_f(a[0], a[1]);
+        break;
+    case nt_dblexpRandMat:
+        result = math->dblexpRandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammaRandNum:
+        result = math->gammaRandNum_f(a[0], a[1]);
+        break;
+    case nt_gammaRandVec:
+        result = math->gammaRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_gammaRandMat:
+        result = math->gammaRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_betaRandNum:
+        result = math->betaRandNum_f(a[0], a[1]);
+        break;
+    case nt_betaRandVec:
+        result = math->betaRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_betaRandMat:
+        result = math->betaRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_chi2RandNum:
+        result = math->chi2RandNum_f(a[0]);
+        break;
+    case nt_chi2RandVec:
+        result = math->chi2RandVec_f(a[0], a[1]);
+        break;
+    case nt_chi2RandMat:
+        result = math->chi2RandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchyRandNum:
+        result = math->cauchyRandNum_f(a[0], a[1]);
+        break;
+    case nt_cauchyRandVec:
+        result = math->cauchyRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_cauchyRandMat:
+        result = math->cauchyRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_fRandNum:
+        result = math->fRandNum_f(a[0], a[1]);
+        break;
+    case nt_fRandVec:
+        result = math->fRandVec_f(a[0], a[1], a[2]);
+        break;
+    case nt_fRandMat:
+        result = math->fRandMat_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_tRandNum:
+        result = math->tRandNum_f(a[0]);
+        break;
+    case nt_tRandVec:
+        result = math->tRandVec_f(a[0], a[1]);
+        break;
+    case nt_tRandMat:
+        result = math->tRandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_poissonRandNum:
+        result = math->poissonRandNum_f(a[0]);
+        break;
+    case nt_poissonRandVec:
+        result = math->poissonRandVec_f(a[0], a[1]);
+        break;
+    case nt_poissonRandMat:
+        result = math->poissonRandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_geometricRandNum:
+        result = math->geometricRandNum_f(a[0]);
+        break;
+    case nt_geometricRandVec:
+        result = math->geometricRandVec_f(a[0], a[1]);
+        break;
+    case nt_geometricRandMat:
+        result = math->geometricRandMat_f(a[0], a[1], a[2]);
+        break;
+    case nt_logarithmicRandNum:
+        result = math->logarithmicRandNum_f(a[0]);
+        break;
+    case nt_logarithmicRandVec:
+        result = math->logarithmicRandVec_f(a[0], a[1]);
+        break;
+    case nt_logarithmicRandMat:
+        result = math->logarithmicRandMat_f(a[0], a[1], a[2]);
+        break;
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---

@@ -475,6 +475,47 @@ public:
     vhValue cauchydens_f(const vhValue& x, const vhValue& location, const vhValue& scale);
     vhValue cauchydist_f(const vhValue& x, const vhValue& location, const vhValue& scale);
     vhValue cauchyinv_f(const vhValue& p, const vhValue& location, const vhValue& scale);
+    // Random numbers, vectors (columns) and matrices of thirteen
+    // distributions, all drawn from one process-wide uniform stream.
+    vhValue uRandNum_f(const vhValue& a, const vhValue& b);
+    vhValue uRandVec_f(const vhValue& a, const vhValue& b, const vhValue& size);
+    vhValue uRandMat_f(const vhValue& a, const vhValue& b, const vhValue& rows, const vhValue& columns);
+    vhValue normRandNum_f(const vhValue& mean, const vhValue& deviation);
+    vhValue normRandVec_f(const vhValue& mean, const vhValue& deviation, const vhValue& size);
+    vhValue normRandMat_f(const vhValue& mean, const vhValue& deviation, const vhValue& rows, const vhValue& columns);
+    vhValue expRandNum_f(const vhValue& rate);
+    vhValue expRandVec_f(const vhValue& rate, const vhValue& size);
+    vhValue expRandMat_f(const vhValue& rate, const vhValue& rows, const vhValue& columns);
+    vhValue dblexpRandNum_f(const vhValue& rate);
+    vhValue dblexpRandVec_f(const vhValue& rate, const vhValue& size);
+    vhValue dblexpRandMat_f(const vhValue& rate, const vhValue& rows, const vhValue& columns);
+    vhValue gammaRandNum_f(const vhValue& shape, const vhValue& scale);
+    vhValue gammaRandVec_f(const vhValue& shape, const vhValue& scale, const vhValue& size);
+    vhValue gammaRandMat_f(const vhValue& shape, const vhValue& scale, const vhValue& rows, const vhValue& columns);
+    vhValue betaRandNum_f(const vhValue& a, const vhValue& b);
+    vhValue betaRandVec_f(const vhValue& a, const vhValue& b, const vhValue& size);
+    vhValue betaRandMat_f(const vhValue& a, const vhValue& b, const vhValue& rows, const vhValue& columns);
+    vhValue chi2RandNum_f(const vhValue& df);
+    vhValue chi2RandVec_f(const vhValue& df, const vhValue& size);
+    vhValue chi2RandMat_f(const vhValue& df, const vhValue& rows, const vhValue& columns);
+    vhValue cauchyRandNum_f(const vhValue& scale, const vhValue& location);
+    vhValue cauchyRandVec_f(const vhValue& scale, const vhValue& location, const vhValue& size);
+    vhValue cauchyRandMat_f(const vhValue& scale, const vhValue& location, const vhValue& rows, const vhValue& columns);
+    vhValue fRandNum_f(const vhValue& d1, const vhValue& d2);
+    vhValue fRandVec_f(const vhValue& d1, const vhValue& d2, const vhValue& size);
+    vhValue fRandMat_f(const vhValue& d1, const vhValue& d2, const vhValue& rows, const vhValue& columns);
+    vhValue tRandNum_f(const vhValue& df);
+    vhValue tRandVec_f(const vhValue& df, const vhValue& size);
+    vhValue tRandMat_f(const vhValue& df, const vhValue& rows, const vhValue& columns);
+    vhValue poissonRandNum_f(const vhValue& rate);
+    vhValue poissonRandVec_f(const vhValue& rate, const vhValue& size);
+    vhValue poissonRandMat_f(const vhValue& rate, const vhValue& rows, const vhValue& columns);
+    vhValue geometricRandNum_f(const vhValue& p);
+    vhValue geometricRandVec_f(const vhValue& p, const vhValue& size);
+    vhValue geometricRandMat_f(const vhValue& p, const vhValue& rows, const vhValue& columns);
+    vhValue logarithmicRandNum_f(const vhValue& p);
+    vhValue logarithmicRandVec_f(const vhValue& p, const vhValue& size);
+    vhValue logarithmicRandMat_f(const vhValue& p, const vhValue& rows, const vhValue& columns);
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---

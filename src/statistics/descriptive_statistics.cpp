@@ -191,9 +191,11 @@ template <class Kernel> vhValue linesWith(const vhValue& v, const vhValue& q, in
 {
     double p = 0.0;
     const Read r = readParameter(q, p);
-    if (r == Read::symbolic)
+    Data d;
+    const Read s = readData(v, d);
+    if (r == Read::symbolic || s == Read::symbolic)
         return held(id, {v, q});
-    if (r != Read::ok)
+    if (r != Read::ok || s != Read::ok)
         return vhValue();
     return lines(v, id, row, [&](double* x, std::size_t n) { return kernel(x, n, p); });
 }

@@ -246,6 +246,9 @@ TEST(DescriptiveStatistics, FrameRefusesWhatIsNoData)
     EXPECT_EQ(nt_percentile, h.functionID());
     EXPECT_EQ(nt_average, math.average_f(symbolic).functionID());
     EXPECT_EQ(nt_trimmean, math.trimmean_f(data, x).functionID());
+    const vhValue rowHeld = math.rowPercentile_f(symbolic, vhDouble(50.0));
+    EXPECT_EQ(nt_rowPercentile, rowHeld.functionID());
+    EXPECT_EQ(2u, rowHeld.functionArguments().size());
     // Text, complex numbers, empty arrays, undefined and out-of-range
     // parameters give the undefined value.
     vhVector text(2, false, false, false);

@@ -194,6 +194,29 @@ rows = [
     # (end of filter design and running filters)
 
     # --- distributions, random numbers, statistics and numeric calculus ---
+    # Descriptive statistics.
+    ("", "average([1, 2, 3, 4])", "value", "2.5"),
+    ("", "median([7, 1, 4, 2])", "value", "3"),
+    ("", "variance([1, 2, 3, 4])", "value", "1.25"),
+    ("", "percentile([1, 2, 3, 4], 100)", "value", "4"),
+    ("", "deviationSample([5])", "value", "null"),
+    ("", "columnMedian([1, 2; 3, 5])", "data", "[2, 3.5]"),
+    ("", "modus([5, 2, 5, 2, 9])", "value", "2"),
+    # Distributions.
+    ("", "normaldist(0, 0, 1)", "value", "0.5"),
+    ("", "normaldist(1.5, 0, 1)", "number", num(mpmath.ncdf(1.5)), "1e-15"),
+    ("", "normaldist(1, 0, 0)", "value", "null"),
+    ("", "tdist(0, 3)", "value", "0.5"),
+    ("", "tinv(0.5, 3)", "value", "0"),
+    ("", "chidist(0, 3)", "value", "0"),
+    ("", "betadist(1, 2, 3)", "value", "1"),
+    ("", "geometricdens(0, 0.5)", "value", "null"),
+    ("", "exponentialdist(1, 2)", "number", num(1 - mpmath.exp(-2)), ELEMENTARY),
+    ("", "poissondens(2, 3)", "number", num(mpmath.mpf(9) / 2 * mpmath.exp(-3)), ELEMENTARY),
+    # Random numbers: shapes, and a deviation of 0 gives the mean.
+    ("", "uRandVec(0, 1, 3)", "type", "vector"),
+    ("", "normRandNum(0, 0)", "value", "0"),
+    ("", "expRandVec(1, 0)", "value", "null"),
     # (end of distributions, random numbers, statistics and numeric calculus)
 
     # --- decompositions and linear equations ---
