@@ -59,3 +59,62 @@ inline bool isUnitary(const CM& q, double tol)
 }
 
 } // namespace linalg_tests
+
+#include <cmath>
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace linalg_tests {
+
+// The number a symbolic result stands for when its symbols take the values
+// of the map: sums, quotients and products of powers of symbols. Anything
+// else, or a symbol missing from the map, gives NaN, which fails every
+// comparison. Written for the tests, independent of the engine's own
+// substitution.
+inline std::complex<double> evaluate(const vhValue& v, const std::map<std::string, std::complex<double>>& at)
+{
+    using namespace VarnholtMath::ValueTypes;
+    const std::complex<double> nan(std::numeric_limits<double>::quiet_NaN(), 0.0);
+    if (v.isNull())
+        return nan;
+    const int tag = v.valueType();
+    if (tag <= tagComplex)
+        return v.toComplex();
+    if (tag == tagExpression) {
+        std::complex<double> sum = 0.0;
+        for (const vhValue& t : v.expressionValues())
+            sum += evaluate(t, at);
+        return sum;
+    }
+    if (tag == tagFraction)
+        return v.numerator() && v.denominator() ? evaluate(*v.numerator(), at) / evaluate(*v.denominator(), at)
+                                                : nan;
+    if (tag != tagSymbolicValue || v.isString())
+        return nan;
+    // The factors: the coefficient and each atom alone, its own chain cut.
+    std::vector<vhValue> factors;
+    v.multipliers(factors);
+    std::complex<double> product = 1.0;
+    for (const vhValue& f : factors) {
+        if (f.isNull())
+            return nan;
+        if (f.valueType() <= tagComplex) {
+            product *= f.toComplex();
+            continue;
+        }
+        if (f.valueType() != tagSymbolicValue)
+            return nan;
+        vhValue base(f);
+        base.resetExponent();
+        const auto found = at.find(base.toString());
+        if (found == at.end())
+            return nan;
+        const std::complex<double> e = f.exponent() ? evaluate(*f.exponent(), at) : std::complex<double>(1.0);
+        product *= std::pow(found->second, e);
+    }
+    return product;
+}
+
+} // namespace linalg_tests

@@ -46,6 +46,21 @@ TEST(LinearEquations, OneUnknown)
     EXPECT_TRUE(math.linsolve_f(eq(vhExpression(x), "==", vhExpression(x)), x).isNull());
 }
 
+TEST(LinearEquations, SymbolicCoefficientOfOneUnknown)
+{
+    vhMath math;
+    const vhValue x = sym("x"), a = sym("a"), b = sym("b");
+    // a x == b gives the quotient b / a, which times a is b again.
+    const vhValue r = math.linsolve_f(eq(a * x, "==", b), x);
+    ASSERT_FALSE(r.isNull());
+    EXPECT_TRUE(r.isSymbolic());
+    EXPECT_TRUE(r * a == b) << r.toString();
+    // a x + 2 == b + 5
+    const vhValue s = math.linsolve_f(eq(a * x + vhInteger(2), "==", vhExpression(b) + vhInteger(5)), x);
+    ASSERT_FALSE(s.isNull());
+    EXPECT_TRUE(s.isSymbolic());
+}
+
 TEST(LinearEquations, UnknownsOnBothSidesAndConstantsOnTheLeft)
 {
     vhMath math;
