@@ -1068,6 +1068,135 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
+    case nt_decLU:
+        result = math->decLU_f(a[0]);
+        break;
+    case nt_decLUL:
+        result = math->decLUL_f(a[0]);
+        break;
+    case nt_decLUU:
+        result = math->decLUU_f(a[0]);
+        break;
+    case nt_decLUPQ:
+        result = math->decLUPQ_f(a[0]);
+        break;
+    case nt_decLUPQL:
+        result = math->decLUPQL_f(a[0]);
+        break;
+    case nt_decLUPQU:
+        result = math->decLUPQU_f(a[0]);
+        break;
+    case nt_decLUPQP:
+        result = math->decLUPQP_f(a[0]);
+        break;
+    case nt_decLUPQQ:
+        result = math->decLUPQQ_f(a[0]);
+        break;
+    case nt_decQR:
+        result = math->decQR_f(a[0]);
+        break;
+    case nt_decQRQ:
+        result = math->decQRQ_f(a[0]);
+        break;
+    case nt_decQRR:
+        result = math->decQRR_f(a[0]);
+        break;
+    case nt_decQRP:
+        result = math->decQRP_f(a[0]);
+        break;
+    case nt_decQRPQ:
+        result = math->decQRPQ_f(a[0]);
+        break;
+    case nt_decQRPR:
+        result = math->decQRPR_f(a[0]);
+        break;
+    case nt_decQRPP:
+        result = math->decQRPP_f(a[0]);
+        break;
+    case nt_decHessenberg:
+        result = math->decHessenberg_f(a[0]);
+        break;
+    case nt_decHessenbergH:
+        result = math->decHessenbergH_f(a[0]);
+        break;
+    case nt_decHessenbergQ:
+        result = math->decHessenbergQ_f(a[0]);
+        break;
+    case nt_decCholesky:
+        result = math->decCholesky_f(a[0]);
+        break;
+    case nt_decCholeskyLDP:
+        result = math->decCholeskyLDP_f(a[0]);
+        break;
+    case nt_decCholeskyLDPL:
+        result = math->decCholeskyLDPL_f(a[0]);
+        break;
+    case nt_decCholeskyLDPD:
+        result = math->decCholeskyLDPD_f(a[0]);
+        break;
+    case nt_decCholeskyLDPP:
+        result = math->decCholeskyLDPP_f(a[0]);
+        break;
+    case nt_decSVD:
+        result = math->decSVD_f(a[0]);
+        break;
+    case nt_decSVDU:
+        result = math->decSVDU_f(a[0]);
+        break;
+    case nt_decSVDS:
+        result = math->decSVDS_f(a[0]);
+        break;
+    case nt_decSVDV:
+        result = math->decSVDV_f(a[0]);
+        break;
+    case nt_characteristicPolynomialRoots:
+        result = math->characteristicPolynomialRoots_f(a[0]);
+        break;
+    case nt_diagonalization:
+        result = math->diagonalization_f(a[0]);
+        break;
+    case nt_diagonalizationD:
+        result = math->diagonalizationD_f(a[0]);
+        break;
+    case nt_diagonalizationP:
+        result = math->diagonalizationP_f(a[0]);
+        break;
+    case nt_eigenVectors:
+        result = math->eigenVectors_f(a[0]);
+        break;
+    case nt_rank:
+        result = math->rank_f(a[0]);
+        break;
+    case nt_matRREForm:
+        result = math->matRREForm_f(a[0]);
+        break;
+    case nt_matrixDeterminant:
+        result = math->matrixDeterminant_f(a[0]);
+        break;
+    case nt_isHermitian:
+        result = math->isHermitian_f(a[0]);
+        break;
+    case nt_positiveDefinite:
+        result = math->positiveDefinite_f(a[0]);
+        break;
+    case nt_charpoly:
+        result = math->charpoly_f(a[0], a[1]);
+        break;
+    case nt_linsolve:
+        result = math->linsolve_f(a[0], a[1]);
+        break;
+    case nt_linsolvesys:
+        result = math->linsolvesys_f(a[0], a[1]);
+        break;
+    case nt_linSysMatrix:
+        result = math->linSysMatrix_f(a[0], a[1]);
+        break;
+    case nt_linSysTerms:
+        result = math->linSysTerms_f(a[0], a[1]);
+        break;
+    case nt_linSysSplit:
+        result = math->linSysSplit_f(a[0], a[1]);
+        break;
     // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---

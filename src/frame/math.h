@@ -519,6 +519,53 @@ public:
     // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
+    // Decompositions of a numeric matrix, computed in complex arithmetic.
+    // A member with several factors returns them as a row vector of
+    // matrices; the members named after one factor return that element.
+    vhValue decLU_f(const vhValue& A);
+    vhValue decLUL_f(const vhValue& A);
+    vhValue decLUU_f(const vhValue& A);
+    vhValue decLUPQ_f(const vhValue& A);
+    vhValue decLUPQL_f(const vhValue& A);
+    vhValue decLUPQU_f(const vhValue& A);
+    vhValue decLUPQP_f(const vhValue& A);
+    vhValue decLUPQQ_f(const vhValue& A);
+    vhValue decQR_f(const vhValue& A);
+    vhValue decQRQ_f(const vhValue& A);
+    vhValue decQRR_f(const vhValue& A);
+    vhValue decQRP_f(const vhValue& A);
+    vhValue decQRPQ_f(const vhValue& A);
+    vhValue decQRPR_f(const vhValue& A);
+    vhValue decQRPP_f(const vhValue& A);
+    vhValue decHessenberg_f(const vhValue& A);
+    vhValue decHessenbergH_f(const vhValue& A);
+    vhValue decHessenbergQ_f(const vhValue& A);
+    vhValue decCholesky_f(const vhValue& A);
+    vhValue decCholeskyLDP_f(const vhValue& A);
+    vhValue decCholeskyLDPL_f(const vhValue& A);
+    vhValue decCholeskyLDPD_f(const vhValue& A);
+    vhValue decCholeskyLDPP_f(const vhValue& A);
+    vhValue decSVD_f(const vhValue& A);
+    vhValue decSVDU_f(const vhValue& A);
+    vhValue decSVDS_f(const vhValue& A);
+    vhValue decSVDV_f(const vhValue& A);
+    vhValue characteristicPolynomialRoots_f(const vhValue& A);
+    vhValue diagonalization_f(const vhValue& A);
+    vhValue diagonalizationD_f(const vhValue& A);
+    vhValue diagonalizationP_f(const vhValue& A);
+    vhValue eigenVectors_f(const vhValue& A);
+    vhValue rank_f(const vhValue& A);
+    vhValue charpoly_f(const vhValue& A, const vhValue& symbol);
+    vhValue matRREForm_f(const vhValue& A);
+    vhValue matrixDeterminant_f(const vhValue& A);
+    vhValue isHermitian_f(const vhValue& A);
+    vhValue positiveDefinite_f(const vhValue& A);
+    // Systems of linear equations "==" in as many unknowns as equations.
+    vhValue linsolve_f(const vhValue& equation, const vhValue& symbol);
+    vhValue linsolvesys_f(const vhValue& equations, const vhValue& symbols);
+    vhValue linSysMatrix_f(const vhValue& equations, const vhValue& symbols);
+    vhValue linSysTerms_f(const vhValue& equations, const vhValue& symbols);
+    vhValue linSysSplit_f(const vhValue& equations, const vhValue& symbols);
     // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---
