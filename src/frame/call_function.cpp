@@ -7,6 +7,31 @@
 namespace VarnholtMath {
 namespace ValueTypes {
 
+namespace {
+
+// The caller's arguments as the cases read them. a[i] is the caller's own
+// value, handed on without a copy: the members take their arguments by const
+// reference and keep none. An index past the count reads the undefined value.
+class ArgumentList {
+public:
+    explicit ArgumentList(const std::vector<vhValue>& arguments)
+        : m_data(arguments.data()), m_size(arguments.size())
+    {
+    }
+    const vhValue& operator[](std::size_t i) const { return i < m_size ? m_data[i] : undefinedValue(); }
+
+private:
+    static const vhValue& undefinedValue()
+    {
+        static const vhValue undefined;
+        return undefined;
+    }
+    const vhValue* m_data;
+    std::size_t m_size;
+};
+
+} // namespace
+
 vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& arguments)
 {
     if (!math)
@@ -16,11 +41,8 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     if (numberOfFunctionArguments(id) != arguments.size())
         return vhValue();
 
-    // Eighteen is the largest argument count of any row.
     vhValue result;
-    vhValue a[18];
-    for (std::size_t i = 0; i < arguments.size() && i < 18; ++i)
-        a[i] = arguments[i];
+    const ArgumentList a(arguments);
 
     // Operators, constructors, constants, statements and the newest rows
     // have no case here.

@@ -97,6 +97,46 @@ Choice& choice()
     return c;
 }
 
+// SLEEF's sine and cosine reduce the argument in one of three ways, chosen
+// for the whole vector by its largest lane: below 15, below 1e14, or beyond
+// (and NaN). A lane's result differs in the last bit between the ways, so
+// that a number would depend on its neighbours. Each slice of a block is
+// therefore sorted by the way its numbers need: the numbers of one way are
+// computed together, and the zeros that pad a short vector never change the
+// way. A number alone takes the way of its own size, the same as in a block.
+int reductionWay(double x)
+{
+    const double a = x < 0 ? -x : x;
+    return a < 15.0 ? 0 : a < 1e14 ? 1 : 2;
+}
+
+void byReductionWay(Block kernel, const double* x, double* out, std::size_t n)
+{
+    const std::size_t slice = 512;
+    double in[3][slice], result[slice];
+    unsigned short index[3][slice];
+    for (std::size_t i = 0; i < n; i += slice) {
+        const std::size_t m = n - i < slice ? n - i : slice;
+        std::size_t count[3] = {0, 0, 0};
+        for (std::size_t k = 0; k < m; ++k) {
+            const int w = reductionWay(x[i + k]);
+            in[w][count[w]] = x[i + k];
+            index[w][count[w]++] = static_cast<unsigned short>(k);
+        }
+        for (int w = 0; w < 3; ++w) {
+            if (count[w] == m) {
+                kernel(x + i, out + i, m);
+                break;
+            }
+            if (count[w] == 0)
+                continue;
+            kernel(in[w], result, count[w]);
+            for (std::size_t k = 0; k < count[w]; ++k)
+                out[i + index[w][k]] = result[k];
+        }
+    }
+}
+
 } // namespace
 
 InstructionSet widestInstructionSet() { return choice().widest; }
@@ -113,8 +153,8 @@ bool useInstructionSet(InstructionSet set)
     return true;
 }
 
-void sin(const double* x, double* out, std::size_t n) { choice().kernels->sin(x, out, n); }
-void cos(const double* x, double* out, std::size_t n) { choice().kernels->cos(x, out, n); }
+void sin(const double* x, double* out, std::size_t n) { byReductionWay(choice().kernels->sin, x, out, n); }
+void cos(const double* x, double* out, std::size_t n) { byReductionWay(choice().kernels->cos, x, out, n); }
 void exp(const double* x, double* out, std::size_t n) { choice().kernels->exp(x, out, n); }
 void log(const double* x, double* out, std::size_t n) { choice().kernels->log(x, out, n); }
 
