@@ -44,7 +44,7 @@ TEST(EquirippleFir, MatchesRemezAndRipplesEqually)
     }
 }
 
-TEST(EquirippleFir, RefusedSpecifications)
+TEST(EquirippleFir, RefusedBandLayouts)
 {
     vhMath m;
     const vhValue e = column({0, 0.2, 0.3, 0.5});
