@@ -7,11 +7,17 @@
 //   FirLowpassDesign  / RawLowpass      (order 10^5, Hann window)
 //   FirResponse       / RawFirResponse  (64 taps, 4096 points)
 //   MovingAverageWide / MovingAverageNarrow (10^6 samples, w = 10001 and 11)
-// FirFilterSlot1024 reports the direct form with 1024 taps.
+// FirFilterSlot1024 reports the direct form with 1024 taps, FftwOverlapAdd1024
+// the same filtering by FFTW's transforms and overlap-add, when the FFTW
+// library is installed (it is opened at run time, so the build needs nothing
+// of it).
 
 #include <benchmark/benchmark.h>
 
+#include <dlfcn.h>
+
 #include <cmath>
+#include <algorithm>
 #include <cstring>
 #include <random>
 #include <vector>
@@ -83,6 +89,75 @@ BENCHMARK(FirFilterBlocks)->Unit(benchmark::kMillisecond);
 
 void FirFilterSlot1024(benchmark::State& state) { firSlot(state, 1024, kSamples); }
 BENCHMARK(FirFilterSlot1024)->Unit(benchmark::kMillisecond);
+
+// --- FFTW overlap-add, 1024 taps -------------------------------------------------
+
+struct Fftw {
+    using Plan = void*;
+    void* library = nullptr;
+    Plan (*planR2c)(int, double*, double (*)[2], unsigned) = nullptr;
+    Plan (*planC2r)(int, double (*)[2], double*, unsigned) = nullptr;
+    void (*executeR2c)(Plan, double*, double (*)[2]) = nullptr;
+    void (*executeC2r)(Plan, double (*)[2], double*) = nullptr;
+    void (*destroy)(Plan) = nullptr;
+
+    Fftw()
+    {
+        library = dlopen("libfftw3.so.3", RTLD_NOW);
+        if (!library)
+            return;
+        planR2c = reinterpret_cast<decltype(planR2c)>(dlsym(library, "fftw_plan_dft_r2c_1d"));
+        planC2r = reinterpret_cast<decltype(planC2r)>(dlsym(library, "fftw_plan_dft_c2r_1d"));
+        executeR2c = reinterpret_cast<decltype(executeR2c)>(dlsym(library, "fftw_execute_dft_r2c"));
+        executeC2r = reinterpret_cast<decltype(executeC2r)>(dlsym(library, "fftw_execute_dft_c2r"));
+        destroy = reinterpret_cast<decltype(destroy)>(dlsym(library, "fftw_destroy_plan"));
+    }
+    bool ready() const { return planR2c && planC2r && executeR2c && executeC2r && destroy; }
+};
+
+void FftwOverlapAdd1024(benchmark::State& state)
+{
+    static Fftw fftw;
+    if (!fftw.ready()) {
+        state.SkipWithError("libfftw3.so.3 not found");
+        return;
+    }
+    const int taps = 1024, n = 4096, step = n - taps + 1;
+    const unsigned estimate = 1u << 6;
+    std::vector<double> x = randomData(kSamples, 1), h = randomData(taps, 2);
+    std::vector<double> y(kSamples + taps - 1), frame(n);
+    std::vector<double> spectrum(2 * (n / 2 + 1)), response(2 * (n / 2 + 1));
+    auto* sp = reinterpret_cast<double (*)[2]>(spectrum.data());
+    auto* rp = reinterpret_cast<double (*)[2]>(response.data());
+    Fftw::Plan forward = fftw.planR2c(n, frame.data(), sp, estimate);
+    Fftw::Plan backward = fftw.planC2r(n, sp, frame.data(), estimate);
+    std::fill(frame.begin(), frame.end(), 0.0);
+    std::copy(h.begin(), h.end(), frame.begin());
+    fftw.executeR2c(forward, frame.data(), rp);
+    for (auto _ : state) {
+        std::fill(y.begin(), y.end(), 0.0);
+        for (std::size_t at = 0; at < kSamples; at += step) {
+            const std::size_t len = std::min<std::size_t>(step, kSamples - at);
+            std::fill(frame.begin(), frame.end(), 0.0);
+            std::copy(x.begin() + at, x.begin() + at + len, frame.begin());
+            fftw.executeR2c(forward, frame.data(), sp);
+            for (int k = 0; k <= n / 2; ++k) {
+                const double re = sp[k][0] * rp[k][0] - sp[k][1] * rp[k][1];
+                sp[k][1] = sp[k][0] * rp[k][1] + sp[k][1] * rp[k][0];
+                sp[k][0] = re;
+            }
+            fftw.executeC2r(backward, sp, frame.data());
+            const std::size_t out = std::min<std::size_t>(n, y.size() - at);
+            for (std::size_t i = 0; i < out; ++i)
+                y[at + i] += frame[i] / n;
+        }
+        benchmark::DoNotOptimize(y.data());
+        benchmark::ClobberMemory();
+    }
+    fftw.destroy(forward);
+    fftw.destroy(backward);
+}
+BENCHMARK(FftwOverlapAdd1024)->Unit(benchmark::kMillisecond);
 
 // --- IIR --------------------------------------------------------------------
 

@@ -37,7 +37,7 @@ vhValue vhMath::firopt_f(const vhValue& length, const vhValue& bands, const vhVa
     int t = 0;
     int g = 0;
     if (!readWholeIn(length, 3, 4096, n) || !readWholeIn(bands, 1, 4096, nb) || !readWholeIn(type, 0, 2, t) ||
-        !readWholeIn(density, 1, 64, g))
+        !readWholeIn(density, 1, 64, g) || static_cast<unsigned int>(n) > maximumNumerOfMatrixElements())
         return vhValue();
     std::vector<double> e;
     std::vector<double> r;

@@ -51,17 +51,27 @@ Interpolant fit(const std::vector<int>& ext, const std::vector<double>& grid, co
     p.value.resize(n);
     for (std::size_t i = 0; i < n; ++i)
         p.x[i] = std::cos(kTwoPi * grid[ext[i]]);
-    // The products are taken in interleaved order so that they neither
-    // overflow nor underflow on long references.
-    const std::size_t stride = (n - 2) / 15 + 1;
+    // The products of long references leave the range of doubles, so each
+    // is carried as a mantissa and a power of two; the weights only matter
+    // up to a common factor, which the largest power sets.
+    std::vector<int> exponents(n);
+    int largest = -2147483647;
     for (std::size_t i = 0; i < n; ++i) {
         double d = 1.0;
-        for (std::size_t j = 0; j < stride; ++j)
-            for (std::size_t k = j; k < n; k += stride)
-                if (k != i)
-                    d *= 2.0 * (p.x[i] - p.x[k]);
+        int e = 0;
+        for (std::size_t k = 0; k < n; ++k) {
+            if (k == i)
+                continue;
+            int step = 0;
+            d = std::frexp(d * (2.0 * (p.x[i] - p.x[k])), &step);
+            e += step;
+        }
         p.weight[i] = 1.0 / d;
+        exponents[i] = -e;
+        largest = exponents[i] > largest ? exponents[i] : largest;
     }
+    for (std::size_t i = 0; i < n; ++i)
+        p.weight[i] = std::ldexp(p.weight[i], exponents[i] - largest);
     double numerator = 0.0;
     double denominator = 0.0;
     double sign = 1.0;
@@ -79,9 +89,8 @@ Interpolant fit(const std::vector<int>& ext, const std::vector<double>& grid, co
     return p;
 }
 
-// The new reference: the largest |E| of each run of one sign, then the
-// smaller end dropped until r + 1 remain. False when fewer alternations
-// exist.
+// The new reference: the largest |E| of each run of one sign, reduced to
+// r + 1 alternating points. False when fewer alternations exist.
 bool searchExtrema(const std::vector<double>& e, std::size_t count, std::vector<int>& ext)
 {
     std::vector<int> found;
@@ -96,18 +105,59 @@ bool searchExtrema(const std::vector<double>& e, std::size_t count, std::vector<
         }
         found.push_back(static_cast<int>(best));
     }
-    std::size_t first = 0;
-    std::size_t last = found.size();
-    while (last - first > count) {
-        if (std::fabs(e[found[first]]) < std::fabs(e[found[last - 1]]))
-            ++first;
-        else
-            --last;
+    // Surplus extrema go smallest first: one at an end is dropped alone; one
+    // inside is dropped with the smaller of its neighbours, so that the signs
+    // still alternate. Runs of rounding noise around a tiny deviation are
+    // the smallest and leave first.
+    while (found.size() > count) {
+        std::size_t smallest = 0;
+        for (std::size_t i = 1; i < found.size(); ++i)
+            if (std::fabs(e[found[i]]) < std::fabs(e[found[smallest]]))
+                smallest = i;
+        if (smallest == 0 || smallest + 1 == found.size() || found.size() == count + 1) {
+            if (smallest != 0 && smallest + 1 != found.size())
+                smallest = std::fabs(e[found.front()]) < std::fabs(e[found.back()]) ? 0 : found.size() - 1;
+            found.erase(found.begin() + static_cast<std::ptrdiff_t>(smallest));
+            continue;
+        }
+        const std::size_t neighbour =
+            std::fabs(e[found[smallest - 1]]) < std::fabs(e[found[smallest + 1]]) ? smallest - 1 : smallest + 1;
+        const std::size_t from = smallest < neighbour ? smallest : neighbour;
+        found.erase(found.begin() + static_cast<std::ptrdiff_t>(from),
+                    found.begin() + static_cast<std::ptrdiff_t>(from) + 2);
     }
-    if (last - first < count)
+    if (found.size() < count)
         return false;
-    ext.assign(found.begin() + first, found.begin() + last);
+    ext.assign(found.begin(), found.end());
     return true;
+}
+
+// The search when the error has too few sign changes, as it has while the
+// levelled deviation is still below the rounding of the interpolant (long
+// filters from a poor start): each reference point moves to the largest
+// error of its expected sign between its neighbours. It always keeps r + 1
+// ordered points; false only when the reference cannot move at all.
+bool searchNeighbourhoods(const std::vector<double>& e, double delta, std::vector<int>& ext)
+{
+    const std::size_t count = ext.size();
+    std::vector<int> next(ext);
+    bool moved = false;
+    double sign = delta >= 0.0 ? 1.0 : -1.0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const int lo = i == 0 ? 0 : next[i - 1] + 1;
+        const int hi = i + 1 == count ? static_cast<int>(e.size()) - 1 : ext[i + 1] - 1;
+        int best = ext[i] < lo ? lo : ext[i];
+        for (int j = lo; j <= hi; ++j)
+            if (sign * e[j] > sign * e[best])
+                best = j;
+        if (best > hi && i + 1 < count)
+            return false;
+        moved = moved || best != ext[i];
+        next[i] = best;
+        sign = -sign;
+    }
+    ext = next;
+    return moved;
 }
 
 } // namespace
@@ -201,7 +251,7 @@ bool remezDesign(int length, const std::vector<double>& edges, const std::vector
             return false;
         for (std::size_t j = 0; j < n; ++j)
             e[j] = wt[j] * (des[j] - p.at(std::cos(kTwoPi * grid[j])));
-        if (!searchExtrema(e, std::size_t(r) + 1, ext))
+        if (!searchExtrema(e, std::size_t(r) + 1, ext) && !searchNeighbourhoods(e, delta, ext))
             return false;
         double largest = 0.0;
         double smallest = INFINITY;

@@ -44,7 +44,7 @@ TEST(EquirippleFir, MatchesRemezAndRipplesEqually)
     }
 }
 
-TEST(EquirippleFir, RefusedSpecifications)
+TEST(EquirippleFir, RefusedBandLayouts)
 {
     vhMath m;
     const vhValue e = column({0, 0.2, 0.3, 0.5});
@@ -64,6 +64,9 @@ TEST(EquirippleFir, RefusedSpecifications)
     EXPECT_TRUE(m.firopt_f(vhInteger(21), two, e, r, w, vhInteger(3), vhInteger(16)).isNull());
     EXPECT_TRUE(m.firopt_f(vhInteger(21), two, e, r, w, vhInteger(0), vhInteger(65)).isNull());
     EXPECT_TRUE(m.firopt_f(vhInteger(21), two, e, column({1, 1, 0}), w, vhInteger(0), vhInteger(16)).isNull());
+    setMaximumNumerOfMatrixElements(20);
+    EXPECT_TRUE(m.firopt_f(vhInteger(21), two, e, r, w, vhInteger(0), vhInteger(16)).isNull());
+    setMaximumNumerOfMatrixElements(2147483647u);
 }
 
 TEST(EquirippleFir, OrderEstimate)

@@ -172,6 +172,9 @@ remez_cases = [
     (31, 16, 2, [0.05, 0.45], [1], [1]),
     (30, 16, 2, [0.05, 0.5], [1], [1]),
     (30, 16, 1, [0, 0.45], [1], [1]),
+    # A long filter whose ripple (1.6e-8) starts out below the rounding of
+    # the first references.
+    (201, 16, 0, [0, 0.2, 0.25, 0.5], [1, 0], [1, 1]),
 ]
 tnames = {0: "bandpass", 1: "differentiator", 2: "hilbert"}
 for numtaps, density, t, bands, desired, weight in remez_cases:
