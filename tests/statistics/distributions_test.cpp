@@ -313,3 +313,25 @@ TEST(Distributions, FrameMapsArraysAndRefusesBadInput)
     EXPECT_EQ(0.5, callFunction(&m, nt_tdist, {d(0.0), d(2.0)}).toDouble());
     EXPECT_EQ(0.5, callFunction(&m, nt_cauchydist, {d(0.0), d(0.0), d(1.0)}).toDouble());
 }
+
+TEST(Distributions, SecondKernelsBesideTheWorksheetOnes)
+{
+    namespace st = VarnholtMath::statistics;
+    // From shape 1 on both gamma cumulatives integrate from 0; below, the
+    // plain one integrates the singular density from 0 and is less exact.
+    EXPECT_EQ(st::gammadistnn(3.0, 2.5, 1.5), st::gammadistn(3.0, 2.5, 1.5));
+    EXPECT_NEAR(st::gammadistnn(3.0, 0.6, 1.5), st::gammadistn(3.0, 0.6, 1.5), 1e-2);
+    for (double p : {0.05, 0.5, 0.95}) {
+        const double x = st::gammainvn(p, 2.5, 1.5);
+        EXPECT_NEAR(p, st::gammadistn(x, 2.5, 1.5), 1e-6 * st::gammadensn(x, 2.5, 1.5) + 1e-12);
+        // The doubling bracket and the unit steps find the same quantile to
+        // the search's width.
+        EXPECT_NEAR(st::gammainvnn(p, 2.5, 1.5), x, 1e-6);
+        // The second chi-square inverse: the same from 2 degrees on. Below,
+        // one panel of the rule from 0.001 meets the near-singular density
+        // and keeps about two digits, which is why the worksheet uses the
+        // series form.
+        EXPECT_EQ(st::chiinvn(p, 4.0), st::chiinvnn(p, 4.0));
+        EXPECT_NEAR(st::chiinvn(p, 1.0), st::chiinvnn(p, 1.0), 1e-2 * st::chiinvn(p, 1.0));
+    }
+}
