@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #include "frame/math.h"
 #include "functions/integer_skeleton.h"
@@ -23,26 +24,38 @@ constexpr std::int64_t kLargestPrime = 2147483647; // 2^31 - 1 is prime
 // close together a sieve answers them all at once.
 void primesOfArray(const double* in, double* out, unsigned int n)
 {
-    double largest = 0;
-    for (unsigned int i = 0; i < n; ++i)
-        if (in[i] == std::trunc(in[i]) && in[i] <= 2147483647.0 && in[i] > largest)
-            largest = in[i];
-    const bool sieve = n >= 256 && largest <= 64.0 * n + 65536.0;
-    std::vector<unsigned char> flags;
-    if (sieve)
-        flags = nth::primeFlags(static_cast<std::uint32_t>(largest));
+    // Whole numbers within 32 bits; NaN fails the range test.
+    auto whole = [](double x, std::int64_t& k) {
+        if (!(x >= -2147483648.0 && x <= 2147483647.0))
+            return false;
+        k = static_cast<std::int64_t>(x);
+        return double(k) == x;
+    };
+    // The largest entry within 32 bits (NaN compares false).
+    double top = 0;
     for (unsigned int i = 0; i < n; ++i) {
         const double x = in[i];
-        if (!(x == std::trunc(x)) || x > 2147483647.0 || x < -2147483648.0) {
+        top = (x > top && x <= 2147483647.0) ? x : top;
+    }
+    const std::int64_t largest = static_cast<std::int64_t>(top);
+    const bool sieve = n >= 256 && double(largest) <= 64.0 * n + 65536.0;
+    std::int64_t k;
+    if (sieve) {
+        const std::vector<unsigned char> flags = nth::primeFlags(static_cast<std::uint32_t>(largest));
+        const unsigned char* f = flags.data();
+        for (unsigned int i = 0; i < n; ++i) {
+            if (!whole(in[i], k))
+                out[i] = std::numeric_limits<double>::quiet_NaN();
+            else
+                out[i] = k < 1 ? 0.0 : double(f[k]);
+        }
+        return;
+    }
+    for (unsigned int i = 0; i < n; ++i) {
+        if (!whole(in[i], k))
             out[i] = std::numeric_limits<double>::quiet_NaN();
-            continue;
-        }
-        if (x < 1) {
-            out[i] = 0;
-            continue;
-        }
-        const std::int64_t k = static_cast<std::int64_t>(x);
-        out[i] = (sieve ? flags[std::size_t(k)] != 0 : nth::isPrime(k)) ? 1.0 : 0.0;
+        else
+            out[i] = (k >= 1 && nth::isPrime(k)) ? 1.0 : 0.0;
     }
 }
 

@@ -476,7 +476,9 @@ void danielsonLanczos(double* re, double* im, std::size_t n, bool inverse)
 
 namespace {
 
-constexpr std::size_t kKeptLength = std::size_t(1) << 22;
+// At most four plans, of 2^21 entries together (some 64 MB of tables and
+// work buffers), are kept per kernel and thread.
+constexpr std::size_t kKeptEntries = std::size_t(1) << 21;
 constexpr std::size_t kKeptPlans = 4;
 
 // The last few plans of one kind, the newest at the end.
@@ -498,10 +500,15 @@ template <class Plan> struct PlanShelf {
                 return e.plan;
             }
         std::shared_ptr<Plan> plan = make();
-        if (n <= kKeptLength) {
-            if (entries.size() == kKeptPlans)
-                entries.erase(entries.begin());
+        if (n <= kKeptEntries) {
             entries.push_back({n, inverse, plan});
+            std::size_t total = 0;
+            for (const Entry& e : entries)
+                total += e.n;
+            while (entries.size() > kKeptPlans || total > kKeptEntries) {
+                total -= entries.front().n;
+                entries.erase(entries.begin());
+            }
         }
         return plan;
     }

@@ -87,7 +87,7 @@ void danielsonLanczos(double* re, double* im, std::size_t n, bool inverse);
 
 // Plans of the lengths last used in the calling thread, so that repeated
 // transforms of one length build their tables once. A plan is used by one
-// call at a time; lengths above 2^22 are not kept.
+// call at a time; a few plans of up to 2^21 entries together are kept.
 std::shared_ptr<MixedRadix> mixedRadixPlan(std::size_t n, bool inverse);
 std::shared_ptr<Bluestein> bluesteinPlan(std::size_t n);
 std::shared_ptr<Radix2> radix2Plan(std::size_t n);
