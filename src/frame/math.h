@@ -475,6 +475,12 @@ public:
     vhValue cauchydens_f(const vhValue& x, const vhValue& location, const vhValue& scale);
     vhValue cauchydist_f(const vhValue& x, const vhValue& location, const vhValue& scale);
     vhValue cauchyinv_f(const vhValue& p, const vhValue& location, const vhValue& scale);
+    // The twelve families by name ("normal", "t", "chi", "gamma", "beta", "f",
+    // "poisson", "geometric", "logarithmic", "exponential", "dblexponential",
+    // "cauchy", any case); b is left out for the families of one parameter.
+    vhValue dens_f(const vhValue& family, const vhValue& x, const vhValue& a, const vhValue& b = vhValue());
+    vhValue dist_f(const vhValue& family, const vhValue& x, const vhValue& a, const vhValue& b = vhValue());
+    vhValue inv_f(const vhValue& family, const vhValue& p, const vhValue& a, const vhValue& b = vhValue());
     // Random numbers, vectors (columns) and matrices of thirteen
     // distributions, all drawn from one process-wide uniform stream.
     vhValue uRandNum_f(const vhValue& a, const vhValue& b);

@@ -335,3 +335,21 @@ TEST(Distributions, SecondKernelsBesideTheWorksheetOnes)
         EXPECT_NEAR(st::chiinvn(p, 1.0), st::chiinvnn(p, 1.0), 1e-2 * st::chiinvn(p, 1.0));
     }
 }
+
+TEST(Distributions, ByFamilyNameReachTheFamilyMembers)
+{
+    vhMath m;
+    const vhValue normal = vhSymbolicValue("Normal", true, {});
+    EXPECT_EQ(m.normaldist_f(d(1.0), d(0.5), d(2.0)).toDouble(), m.dist_f(normal, d(1.0), d(0.5), d(2.0)).toDouble());
+    EXPECT_EQ(m.betainv_f(d(0.3), d(2.0), d(5.0)).toDouble(),
+              m.inv_f(vhSymbolicValue("beta", true, {}), d(0.3), d(2.0), d(5.0)).toDouble());
+    EXPECT_EQ(m.poissondens_f(d(3.0), d(2.0)).toDouble(),
+              m.dens_f(vhSymbolicValue("poisson", true, {}), d(3.0), d(2.0)).toDouble());
+    // A family of one parameter refuses a second one; a family of two needs it.
+    EXPECT_TRUE(m.dens_f(vhSymbolicValue("t", true, {}), d(1.0), d(3.0), d(1.0)).isNull());
+    EXPECT_TRUE(m.dist_f(normal, d(1.0), d(0.0)).isNull());
+    // Unknown names, symbols that are no text, and the undefined value.
+    EXPECT_TRUE(m.dist_f(vhSymbolicValue("lognormal", true, {}), d(1.0), d(0.0), d(1.0)).isNull());
+    EXPECT_TRUE(m.dist_f(vhSymbolicValue("normal", false, {}), d(1.0), d(0.0), d(1.0)).isNull());
+    EXPECT_TRUE(m.inv_f(vhValue(), d(0.5), d(0.0), d(1.0)).isNull());
+}
