@@ -209,54 +209,57 @@ vhValue vhMath::Hexadecimal2Binary_f(const vhValue& x)
 
 vhValue vhMath::Newton2Pound_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Newton2Pound, [](const double* a) { return a[0] / kPoundForceInNewtons; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] / kPoundForceInNewtons; });
 }
 
 vhValue vhMath::Pound2Newton_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Pound2Newton, [](const double* a) { return a[0] * kPoundForceInNewtons; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * kPoundForceInNewtons; });
 }
 
 vhValue vhMath::Meter2Foot_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Meter2Foot, [](const double* a) { return a[0] / kFootInMeters; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] / kFootInMeters; });
 }
 
 vhValue vhMath::Foot2Meter_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Foot2Meter, [](const double* a) { return a[0] * kFootInMeters; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * kFootInMeters; });
 }
 
 vhValue vhMath::Kilo2Pound_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Kilo2Pound, [](const double* a) { return a[0] / kPoundInKilograms; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] / kPoundInKilograms; });
 }
 
 vhValue vhMath::Pound2Kilo_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Pound2Kilo, [](const double* a) { return a[0] * kPoundInKilograms; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * kPoundInKilograms; });
 }
 
 vhValue vhMath::Celsius2Fahrenheit_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Celsius2Fahrenheit, [](const double* a) { return a[0] * 9.0 / 5.0 + 32.0; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * 1.8 + 32.0; });
 }
 
 vhValue vhMath::Fahrenheit2Celsius_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_Fahrenheit2Celsius, [](const double* a) { return (a[0] - 32.0) * 5.0 / 9.0; });
+    return realrows::map({&x}, 0, [](const double* a) { return (a[0] - 32.0) / 1.8; });
 }
+
+// Unit and angle conversions are plain numbers: symbolic arguments, units
+// and complex numbers have no conversion here.
 
 // Multiplying before dividing keeps the whole turns exact: 400 gradians give
 // exactly 360 degrees and back.
 vhValue vhMath::grad2deg_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_grad2deg, [](const double* a) { return a[0] * 9.0 / 10.0; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * 9.0 / 10.0; });
 }
 
 vhValue vhMath::deg2grad_f(const vhValue& x)
 {
-    return realrows::map({&x}, nt_deg2grad, [](const double* a) { return a[0] * 10.0 / 9.0; });
+    return realrows::map({&x}, 0, [](const double* a) { return a[0] * 10.0 / 9.0; });
 }
 
 // Negative integers show their bits in two's complement of 64 bits.
