@@ -2,12 +2,11 @@
 // and taking apart complex numbers, rows of arrays, element-by-element
 // division, and the clock.
 
-#include <cctype>
-#include <cerrno>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <ctime>
 #include <string>
+#include <system_error>
 
 #include "frame/math.h"
 #include "functions/elementwise_skeleton.h"
@@ -34,28 +33,28 @@ std::size_t characterCount(const std::string& s)
     return n;
 }
 
-// A real number written in full, with nothing left over.
+// A real number written in full, with nothing left over. The reading does
+// not depend on the host's locale: the decimal mark is always a point.
+// Numbers beyond the range of doubles are refused rather than made infinite.
 bool parseReal(const std::string& s, double& d)
 {
-    if (s.empty() || std::isspace(static_cast<unsigned char>(s[0])))
+    std::size_t start = s.size() > 1 && s[0] == '+' && s[1] != '-' && s[1] != '+' ? 1 : 0;
+    if (start >= s.size())
         return false;
-    errno = 0;
-    char* end = nullptr;
-    d = std::strtod(s.c_str(), &end);
-    return end == s.c_str() + s.size() && !std::isnan(d);
+    const char* first = s.data() + start;
+    const char* last = s.data() + s.size();
+    const std::from_chars_result r = std::from_chars(first, last, d);
+    return r.ec == std::errc() && r.ptr == last && !std::isnan(d);
 }
 
 bool parseWhole(const std::string& s, int& n)
 {
-    if (s.empty() || s.find_first_not_of("+-0123456789") != std::string::npos)
+    std::size_t start = s.size() > 1 && s[0] == '+' && s[1] != '-' && s[1] != '+' ? 1 : 0;
+    if (start >= s.size())
         return false;
-    errno = 0;
-    char* end = nullptr;
-    const long v = std::strtol(s.c_str(), &end, 10);
-    if (errno != 0 || end != s.c_str() + s.size() || v < -2147483647L - 1 || v > 2147483647L)
-        return false;
-    n = static_cast<int>(v);
-    return true;
+    const char* last = s.data() + s.size();
+    const std::from_chars_result r = std::from_chars(s.data() + start, last, n);
+    return r.ec == std::errc() && r.ptr == last;
 }
 
 // The coefficient of i: empty or a sign alone stand for 1 or -1.

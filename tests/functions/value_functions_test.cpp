@@ -35,6 +35,8 @@ TEST(ValueFunctions, TextToNumber)
     vhMath m;
     EXPECT_EQ(tagInteger, m.toNumber_f(str("-42")).valueType());
     EXPECT_EQ(-42, m.toNumber_f(str(" -42 ")).toInt());
+    EXPECT_EQ(42, m.toNumber_f(str("+42")).toInt());
+    EXPECT_EQ(0.5, m.toNumber_f(str("+.5")).toDouble());
     EXPECT_EQ(tagDouble, m.toNumber_f(str("2.5e3")).valueType());
     EXPECT_EQ(2500.0, m.toNumber_f(str("2.5e3")).toDouble());
     // Too large for an integer: a double.
@@ -50,7 +52,7 @@ TEST(ValueFunctions, TextToNumber)
     EXPECT_EQ(0.0, z.complexRe());
     EXPECT_EQ(-1.0, z.complexIm());
     EXPECT_EQ(7, m.toNumber_f(vhInteger(7)).toInt());
-    for (const char* s : {"", "  ", "abc", "1,5", "3+", "i4", "1+2", "--1", "nan"})
+    for (const char* s : {"", "  ", "abc", "1,5", "3+", "i4", "1+2", "--1", "+-1", "nan", "1e400", "0x10"})
         EXPECT_TRUE(m.toNumber_f(str(s)).isNull()) << s;
     EXPECT_TRUE(m.toNumber_f(vhSymbolicValue("x", false, {})).isNull());
 }
