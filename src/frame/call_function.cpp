@@ -1222,6 +1222,285 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---
+    case nt_Decimal2Binary:
+        result = math->Decimal2Binary_f(a[0]);
+        break;
+    case nt_Binary2Decimal:
+        result = math->Binary2Decimal_f(a[0]);
+        break;
+    case nt_Decimal2Hexadecimal:
+        result = math->Decimal2Hexadecimal_f(a[0]);
+        break;
+    case nt_Hexadecimal2Decimal:
+        result = math->Hexadecimal2Decimal_f(a[0]);
+        break;
+    case nt_Binary2Hexadecimal:
+        result = math->Binary2Hexadecimal_f(a[0]);
+        break;
+    case nt_Hexadecimal2Binary:
+        result = math->Hexadecimal2Binary_f(a[0]);
+        break;
+    case nt_Newton2Pound:
+        result = math->Newton2Pound_f(a[0]);
+        break;
+    case nt_Pound2Newton:
+        result = math->Pound2Newton_f(a[0]);
+        break;
+    case nt_Meter2Foot:
+        result = math->Meter2Foot_f(a[0]);
+        break;
+    case nt_Foot2Meter:
+        result = math->Foot2Meter_f(a[0]);
+        break;
+    case nt_Kilo2Pound:
+        result = math->Kilo2Pound_f(a[0]);
+        break;
+    case nt_Pound2Kilo:
+        result = math->Pound2Kilo_f(a[0]);
+        break;
+    case nt_Celsius2Fahrenheit:
+        result = math->Celsius2Fahrenheit_f(a[0]);
+        break;
+    case nt_Fahrenheit2Celsius:
+        result = math->Fahrenheit2Celsius_f(a[0]);
+        break;
+    case nt_grad2deg:
+        result = math->grad2deg_f(a[0]);
+        break;
+    case nt_deg2grad:
+        result = math->deg2grad_f(a[0]);
+        break;
+    case nt_isBitActive:
+        result = math->isBitActive_f(a[0], a[1]);
+        break;
+    case nt_setBit:
+        result = math->setBit_f(a[0], a[1], a[2]);
+        break;
+    case nt_complex:
+        result = math->complex_f(a[0], a[1]);
+        break;
+    case nt_complexImg:
+        result = math->complexImg_f(a[0]);
+        break;
+    case nt_phangle:
+        result = math->phangle_f(a[0]);
+        break;
+    case nt_timeNow:
+        result = math->timeNow_f();
+        break;
+    case nt_cartesian2polar:
+        result = math->cartesian2polar_f(a[0], a[1]);
+        break;
+    case nt_cartesian2polarR:
+        result = math->cartesian2polarR_f(a[0], a[1]);
+        break;
+    case nt_cartesian2polarF:
+        result = math->cartesian2polarF_f(a[0], a[1]);
+        break;
+    case nt_polar2cartesian:
+        result = math->polar2cartesian_f(a[0], a[1]);
+        break;
+    case nt_polar2cartesianX:
+        result = math->polar2cartesianX_f(a[0], a[1]);
+        break;
+    case nt_polar2cartesianY:
+        result = math->polar2cartesianY_f(a[0], a[1]);
+        break;
+    case nt_cartesian2sphere:
+        result = math->cartesian2sphere_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2sphereR:
+        result = math->cartesian2sphereR_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2sphereF:
+        result = math->cartesian2sphereF_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2sphereT:
+        result = math->cartesian2sphereT_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cartesian:
+        result = math->sphere2cartesian_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cartesianX:
+        result = math->sphere2cartesianX_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cartesianY:
+        result = math->sphere2cartesianY_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cartesianZ:
+        result = math->sphere2cartesianZ_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2cylinder:
+        result = math->cartesian2cylinder_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2cylinderR:
+        result = math->cartesian2cylinderR_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2cylinderF:
+        result = math->cartesian2cylinderF_f(a[0], a[1], a[2]);
+        break;
+    case nt_cartesian2cylinderZ:
+        result = math->cartesian2cylinderZ_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2cartesian:
+        result = math->cylinder2cartesian_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2cartesianX:
+        result = math->cylinder2cartesianX_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2cartesianY:
+        result = math->cylinder2cartesianY_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2cartesianZ:
+        result = math->cylinder2cartesianZ_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2sphere:
+        result = math->cylinder2sphere_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2sphereR:
+        result = math->cylinder2sphereR_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2sphereF:
+        result = math->cylinder2sphereF_f(a[0], a[1], a[2]);
+        break;
+    case nt_cylinder2sphereT:
+        result = math->cylinder2sphereT_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cylinder:
+        result = math->sphere2cylinder_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cylinderR:
+        result = math->sphere2cylinderR_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cylinderF:
+        result = math->sphere2cylinderF_f(a[0], a[1], a[2]);
+        break;
+    case nt_sphere2cylinderZ:
+        result = math->sphere2cylinderZ_f(a[0], a[1], a[2]);
+        break;
+    case nt_presentvalue:
+        result = math->presentvalue_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_futurevalue:
+        result = math->futurevalue_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_annualpayment:
+        result = math->annualpayment_f(a[0], a[1], a[2]);
+        break;
+    case nt_interestpayment:
+        result = math->interestpayment_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_capitalpayment:
+        result = math->capitalpayment_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_rate:
+        result = math->rate_f(a[0], a[1], a[2]);
+        break;
+    case nt_numberofperiods:
+        result = math->numberofperiods_f(a[0], a[1], a[2]);
+        break;
+    case nt_bondprice:
+        result = math->bondprice_f(a[0], a[1], a[2]);
+        break;
+    case nt_bondyieldtomaturity:
+        result = math->bondyieldtomaturity_f(a[0], a[1], a[2]);
+        break;
+    case nt_bondduration:
+        result = math->bondduration_f(a[0], a[1], a[2]);
+        break;
+    case nt_bonddurationmodified:
+        result = math->bonddurationmodified_f(a[0], a[1], a[2], a[3]);
+        break;
+    case nt_bondconvexity:
+        result = math->bondconvexity_f(a[0], a[1], a[2]);
+        break;
+    case nt_bondaccuredinterest:
+        result = math->bondaccuredinterest_f(a[0], a[1], a[2]);
+        break;
+    case nt_areColinear:
+        result = math->areColinear_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_areComplanar:
+        result = math->areComplanar_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8], a[9], a[10], a[11]);
+        break;
+    case nt_areCocyclic:
+        result = math->areCocyclic_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7]);
+        break;
+    case nt_areConcurent:
+        result = math->areConcurent_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_anglebtwlines:
+        result = math->anglebtwlines_f(a[0], a[1]);
+        break;
+    case nt_areaofTriangle:
+        result = math->areaofTriangle_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_angle:
+        result = math->angle_f(a[0], a[1], a[2], a[3], a[4], a[5]);
+        break;
+    case nt_PlotArc:
+        result = math->PlotArc_f(a[0], a[1]);
+        break;
+    case nt_PlotCircle:
+        result = math->PlotCircle_f(a[0], a[1]);
+        break;
+    case nt_volumeOfTetrahedron:
+        result = math->volumeOfTetrahedron_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8], a[9], a[10], a[11]);
+        break;
+    case nt_norm:
+        result = math->norm_f(a[0]);
+        break;
+    case nt_vecangle:
+        result = math->vecangle_f(a[0], a[1]);
+        break;
+    case nt_areOrthogonal:
+        result = math->areOrthogonal_f(a[0], a[1]);
+        break;
+    case nt_scalproj:
+        result = math->scalproj_f(a[0], a[1]);
+        break;
+    case nt_vecproj:
+        result = math->vecproj_f(a[0], a[1]);
+        break;
+    case nt_crossprod:
+        result = math->crossprod_f(a[0], a[1]);
+        break;
+    case nt_dotprod:
+        result = math->dotprod_f(a[0], a[1]);
+        break;
+    case nt_areaofParal3D:
+        result = math->areaofParal3D_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
+        break;
+    case nt_vecareaofParal3D:
+        result = math->vecareaofParal3D_f(a[0], a[1]);
+        break;
+    case nt_areaofTriangle3D:
+        result = math->areaofTriangle3D_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
+        break;
+    case nt_vecareaofTriangle3D:
+        result = math->vecareaofTriangle3D_f(a[0], a[1]);
+        break;
+    case nt_distPointLine:
+        result = math->distPointLine_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
+        break;
+    case nt_planeVector:
+        result = math->planeVector_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8]);
+        break;
+    case nt_intersecLinePlane:
+        result = math->intersecLinePlane_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8], a[9], a[10], a[11], a[12], a[13], a[14]);
+        break;
+    case nt_intersecPlanes:
+        result = math->intersecPlanes_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8], a[9], a[10], a[11], a[12], a[13], a[14], a[15], a[16], a[17]);
+        break;
+    case nt_intersecTriangles:
+        result = math->intersecTriangles_f(a[0], a[1], a[2], a[3], a[4], a[5], a[6], a[7], a[8], a[9], a[10], a[11], a[12], a[13], a[14], a[15], a[16], a[17]);
+        break;
+    case nt_chemSolver:
+        result = math->chemSolver_f(a[0]);
+        break;
+    case nt_intersecsurface:
+        result = math->surfaceIntersection_f(a[0], a[1]);
+        break;
     // (end of finance, coordinates, geometry, conversions and chemistry)
 
     default:

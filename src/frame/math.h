@@ -575,6 +575,112 @@ public:
     // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---
+    // Conversions of bases, units and angles; bits of integers.
+    vhValue Decimal2Binary_f(const vhValue& x);
+    vhValue Binary2Decimal_f(const vhValue& x);
+    vhValue Decimal2Hexadecimal_f(const vhValue& x);
+    vhValue Hexadecimal2Decimal_f(const vhValue& x);
+    vhValue Binary2Hexadecimal_f(const vhValue& x);
+    vhValue Hexadecimal2Binary_f(const vhValue& x);
+    vhValue Newton2Pound_f(const vhValue& x);
+    vhValue Pound2Newton_f(const vhValue& x);
+    vhValue Meter2Foot_f(const vhValue& x);
+    vhValue Foot2Meter_f(const vhValue& x);
+    vhValue Kilo2Pound_f(const vhValue& x);
+    vhValue Pound2Kilo_f(const vhValue& x);
+    vhValue Celsius2Fahrenheit_f(const vhValue& x);
+    vhValue Fahrenheit2Celsius_f(const vhValue& x);
+    vhValue grad2deg_f(const vhValue& x);
+    vhValue deg2grad_f(const vhValue& x);
+    vhValue isBitActive_f(const vhValue& x, const vhValue& position);
+    vhValue setBit_f(const vhValue& x, const vhValue& position, const vhValue& on);
+    // Values, strings and complex numbers.
+    vhValue typeName_f(const vhValue& x);
+    vhValue toString_f(const vhValue& x);
+    vhValue toNumber_f(const vhValue& x);
+    vhValue strlen_f(const vhValue& x);
+    vhValue strat_f(const vhValue& x, const vhValue& position);
+    vhValue complex_f(const vhValue& re, const vhValue& im);
+    vhValue complexImg_f(const vhValue& z);
+    vhValue phangle_f(const vhValue& z);
+    vhValue row2Vector_f(const vhValue& x, const vhValue& row);
+    vhValue matrixSDiv_f(const vhValue& a, const vhValue& b);
+    vhValue timeNow_f();
+    // Coordinates; angles in the worksheet's angle unit.
+    vhValue cartesian2polar_f(const vhValue& x, const vhValue& y);
+    vhValue cartesian2polarR_f(const vhValue& x, const vhValue& y);
+    vhValue cartesian2polarF_f(const vhValue& x, const vhValue& y);
+    vhValue polar2cartesian_f(const vhValue& r, const vhValue& phi);
+    vhValue polar2cartesianX_f(const vhValue& r, const vhValue& phi);
+    vhValue polar2cartesianY_f(const vhValue& r, const vhValue& phi);
+    vhValue cartesian2sphere_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2sphereR_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2sphereF_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2sphereT_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cartesian_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cartesianX_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cartesianY_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cartesianZ_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2cylinder_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2cylinderR_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2cylinderF_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cartesian2cylinderZ_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2cartesian_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2cartesianX_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2cartesianY_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2cartesianZ_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2sphere_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2sphereR_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2sphereF_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue cylinder2sphereT_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cylinder_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cylinderR_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cylinderF_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    vhValue sphere2cylinderZ_f(const vhValue& a, const vhValue& b, const vhValue& c);
+    // Finance: rates and periods per period, cash paid out negative.
+    vhValue presentvalue_f(const vhValue& rate, const vhValue& periods, const vhValue& payment, const vhValue& futureValue);
+    vhValue futurevalue_f(const vhValue& rate, const vhValue& periods, const vhValue& payment, const vhValue& presentValue);
+    vhValue annualpayment_f(const vhValue& rate, const vhValue& periods, const vhValue& presentValue);
+    vhValue interestpayment_f(const vhValue& rate, const vhValue& period, const vhValue& periods, const vhValue& presentValue);
+    vhValue capitalpayment_f(const vhValue& rate, const vhValue& period, const vhValue& periods, const vhValue& presentValue);
+    vhValue rate_f(const vhValue& periods, const vhValue& payment, const vhValue& presentValue);
+    vhValue numberofperiods_f(const vhValue& rate, const vhValue& payment, const vhValue& presentValue);
+    vhValue bondprice_f(const vhValue& coupon, const vhValue& yield, const vhValue& periods);
+    vhValue bondyieldtomaturity_f(const vhValue& price, const vhValue& coupon, const vhValue& periods);
+    vhValue bondduration_f(const vhValue& coupon, const vhValue& yield, const vhValue& periods);
+    vhValue bonddurationmodified_f(const vhValue& coupon, const vhValue& yield, const vhValue& years, const vhValue& paymentsPerYear);
+    vhValue bondconvexity_f(const vhValue& coupon, const vhValue& yield, const vhValue& periods);
+    vhValue bondaccuredinterest_f(const vhValue& coupon, const vhValue& daysSinceCoupon, const vhValue& daysInPeriod);
+    // Geometry of the plane and of space, and vectors.
+    vhValue areColinear_f(const vhValue& x1, const vhValue& y1, const vhValue& x2, const vhValue& y2, const vhValue& x3, const vhValue& y3);
+    vhValue areComplanar_f(const vhValue& x1, const vhValue& y1, const vhValue& z1, const vhValue& x2, const vhValue& y2, const vhValue& z2, const vhValue& x3, const vhValue& y3, const vhValue& z3, const vhValue& x4, const vhValue& y4, const vhValue& z4);
+    vhValue areCocyclic_f(const vhValue& x1, const vhValue& y1, const vhValue& x2, const vhValue& y2, const vhValue& x3, const vhValue& y3, const vhValue& x4, const vhValue& y4);
+    vhValue areConcurent_f(const vhValue& k1, const vhValue& n1, const vhValue& k2, const vhValue& n2, const vhValue& k3, const vhValue& n3);
+    vhValue anglebtwlines_f(const vhValue& k1, const vhValue& k2);
+    vhValue areaofTriangle_f(const vhValue& x1, const vhValue& y1, const vhValue& x2, const vhValue& y2, const vhValue& x3, const vhValue& y3);
+    vhValue angle_f(const vhValue& x1, const vhValue& y1, const vhValue& x2, const vhValue& y2, const vhValue& x3, const vhValue& y3);
+    vhValue PlotArc_f(const vhValue& circle, const vhValue& angles);
+    vhValue PlotCircle_f(const vhValue& centre, const vhValue& radius);
+    vhValue volumeOfTetrahedron_f(const vhValue& x1, const vhValue& y1, const vhValue& z1, const vhValue& x2, const vhValue& y2, const vhValue& z2, const vhValue& x3, const vhValue& y3, const vhValue& z3, const vhValue& x4, const vhValue& y4, const vhValue& z4);
+    vhValue norm_f(const vhValue& a);
+    vhValue vecangle_f(const vhValue& a, const vhValue& b);
+    vhValue areOrthogonal_f(const vhValue& a, const vhValue& b);
+    vhValue scalproj_f(const vhValue& a, const vhValue& b);
+    vhValue vecproj_f(const vhValue& a, const vhValue& b);
+    vhValue crossprod_f(const vhValue& a, const vhValue& b);
+    vhValue dotprod_f(const vhValue& a, const vhValue& b);
+    vhValue vecareaofParal3D_f(const vhValue& a, const vhValue& b);
+    vhValue vecareaofTriangle3D_f(const vhValue& a, const vhValue& b);
+    vhValue areaofParal3D_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC);
+    vhValue areaofTriangle3D_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC);
+    vhValue distPointLine_f(const vhValue& xP, const vhValue& yP, const vhValue& zP, const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB);
+    vhValue planeVector_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC);
+    vhValue intersecLinePlane_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC, const vhValue& xD, const vhValue& yD, const vhValue& zD, const vhValue& xE, const vhValue& yE, const vhValue& zE);
+    vhValue intersecPlanes_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC, const vhValue& xD, const vhValue& yD, const vhValue& zD, const vhValue& xE, const vhValue& yE, const vhValue& zE, const vhValue& xF, const vhValue& yF, const vhValue& zF);
+    vhValue intersecTriangles_f(const vhValue& xA, const vhValue& yA, const vhValue& zA, const vhValue& xB, const vhValue& yB, const vhValue& zB, const vhValue& xC, const vhValue& yC, const vhValue& zC, const vhValue& xD, const vhValue& yD, const vhValue& zD, const vhValue& xE, const vhValue& yE, const vhValue& zE, const vhValue& xF, const vhValue& yF, const vhValue& zF);
+    vhValue surfaceIntersection_f(const vhValue& first, const vhValue& second);
+    // Chemistry: coefficients of a reaction from its element-count matrix.
+    vhValue chemSolver_f(const vhValue& reactionMatrix);
     // (end of finance, coordinates, geometry, conversions and chemistry)
 
 private:

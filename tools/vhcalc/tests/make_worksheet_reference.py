@@ -223,6 +223,16 @@ rows = [
     # (end of decompositions and linear equations)
 
     # --- finance, coordinates, geometry, conversions and chemistry ---
+    ("", 'Decimal2Binary(10)', "value", '"1010"'),
+    ("", 'Hexadecimal2Decimal("ff")', "value", "255"),
+    ("", "Celsius2Fahrenheit(100)", "value", "212"),
+    ("--angle deg", "cartesian2polarF(0, 2)", "value", "90"),
+    ("--angle deg", "phangle(-1)", "value", "180"),
+    ("", "bondprice(0.08, 0.1, 10)", "number", num(sum(mpmath.mpf('0.08') / mpmath.mpf('1.1') ** t for t in range(1, 11)) + 1 / mpmath.mpf('1.1') ** 10), "1e-14"),
+    ("", "presentvalue(0, 12, 100, 0)", "value", "-1200"),
+    ("", "areColinear(0, 0, 1, 1, 2, 2)", "value", "true"),
+    ("", "dotprod([1, 2, 3], [4, 5, 6])", "value", "32"),
+    ("", "chemSolver([3, 0, -1, 0; 8, 0, 0, -2; 0, 2, -2, -1])", "data", "[1, 5, 3, 4]"),
     # (end of finance, coordinates, geometry, conversions and chemistry)
 
 ]
