@@ -92,8 +92,16 @@ vhValue& vhValue::operator=(vhValue&& other) noexcept
         m_valueType = tagVector;
         return *this;
     }
-    // Through a fresh record, so that a source inside this value is emptied
-    // before the old content goes.
+    // A value that holds no values cannot hold the source either: its old
+    // content can go first, and the source moves straight in.
+    if (m_elements.empty() && m_expressionValues.empty() && !m_exponent && !m_multiplier && !m_numerator &&
+        !m_denominator && m_rowNames.empty() && m_columnNames.empty() && m_memberValues.empty()) {
+        freeContent();
+        takeContentFrom(other);
+        return *this;
+    }
+    // Otherwise through a fresh record, so that a source inside this value is
+    // emptied before the old content goes.
     vhValue fresh(std::move(other));
     swapRecord(fresh);
     return *this;
