@@ -141,6 +141,11 @@ const std::size_t kWidth[] = {2, 4, 8};
 
 void byReductionWay(Block kernel, std::size_t width, const double* x, double* out, std::size_t n)
 {
+    // One number is one way.
+    if (n <= 1) {
+        kernel(x, out, n);
+        return;
+    }
     double again[kSlice], result[kSlice];
     unsigned short index[kSlice];
     for (std::size_t i = 0; i < n; i += kSlice) {
