@@ -156,8 +156,11 @@ vhValue::~vhValue()
     delete m_multiplier;
     delete m_numerator;
     delete m_denominator;
-    std::free(m_numericData);
-    std::free(m_imageData);
+    // Most records own no block; this spares them two calls into the C library.
+    if (m_numericData)
+        std::free(m_numericData);
+    if (m_imageData)
+        std::free(m_imageData);
 }
 
 void vhValue::freeContent()
@@ -167,9 +170,11 @@ void vhValue::freeContent()
     delete m_numerator;
     delete m_denominator;
     m_exponent = m_multiplier = m_numerator = m_denominator = nullptr;
-    std::free(m_numericData);
+    if (m_numericData)
+        std::free(m_numericData);
     m_numericData = nullptr;
-    std::free(m_imageData);
+    if (m_imageData)
+        std::free(m_imageData);
     m_imageData = nullptr;
     m_text.clear();
     m_charFormats.clear();
