@@ -62,6 +62,20 @@ void BM_ExpandOneSymbolPower20(benchmark::State& state)
 }
 BENCHMARK(BM_ExpandOneSymbolPower20)->Unit(benchmark::kMillisecond);
 
+// Three symbols and a constant from power 6 to 12, to see how the cost
+// grows with the number of terms (84 to 455).
+void BM_ExpandThreeSymbols(benchmark::State& state)
+{
+    const vhValue base = sym("x") + sym("y") + sym("z") + 1;
+    vhValue r;
+    for (auto _ : state) {
+        r = expand(base, static_cast<int>(state.range(0)));
+        benchmark::DoNotOptimize(r);
+    }
+    report(state, r);
+}
+BENCHMARK(BM_ExpandThreeSymbols)->Arg(6)->Arg(8)->Arg(10)->Arg(12)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 BENCHMARK_MAIN();

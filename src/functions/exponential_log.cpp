@@ -45,9 +45,8 @@ void logBlock(const double* x, double* out, std::size_t n)
             out[i] = kNaN;
 }
 
-bool leavesLog(double x) { return x < 0.0; }
-
-bool staysReal(double) { return false; }
+// A negative number's logarithm is complex.
+inline bool leavesLog(double x) { return x < 0.0; }
 
 } // namespace
 
@@ -63,7 +62,7 @@ vhValue expValue(const vhValue& x)
     return unaryBlock(
         x, nt_exp, [](const vhValue& e) { return expValue(e); },
         [](double a, double b) { return complexOrUndefined(std::exp(a) * std::cos(b), std::exp(a) * std::sin(b)); },
-        [](double d) { return doubleOrUndefined(vectormath::exp1(d)); }, vectormath::exp, staysReal);
+        [](double d) { return doubleOrUndefined(vectormath::exp1(d)); }, vectormath::exp, [](double) { return false; });
 }
 
 vhValue logValue(const vhValue& x)
@@ -86,7 +85,7 @@ vhValue logValue(const vhValue& x)
             logBlock(&r, &out, 1);
             return doubleOrUndefined(out);
         },
-        logBlock, leavesLog);
+        logBlock, [](double v) { return leavesLog(v); });
 }
 
 } // namespace elementary

@@ -4,6 +4,7 @@
 // pi/2 is exactly 0, not a small remainder, so tan has true poles there.
 
 #include <cmath>
+#include <cstdint>
 #include <complex>
 
 #include <boost/math/complex/acos.hpp>
@@ -22,7 +23,14 @@ using namespace elementwise;
 
 namespace {
 
-bool isWholeQuotient(double q) { return double(internal::cutToInt32(q)) == q; }
+// A whole quotient within the 32-bit integers; written without branches so
+// that the pass over a block is vectorised.
+bool isWholeQuotient(double q)
+{
+    const bool inRange = q > -2147483649.0 && q < 2147483648.0;
+    const double r = inRange ? q : 0.5;
+    return double(static_cast<std::int32_t>(r)) == r;
+}
 
 // sin and cos of radian numbers, a block at a time, with their exact zeros:
 // sin at whole multiples of pi, cos at odd multiples of pi/2.
@@ -88,7 +96,6 @@ double cosOf(double x, AngleUnit unit, unsigned int count)
     return out;
 }
 
-bool staysReal(double) { return false; }
 
 // The complex sine and cosine of a radian argument; on the real axis they
 // stay complex, with imaginary part 0.
@@ -166,7 +173,7 @@ vhValue vhMath::sin_f(const vhValue& x)
         x, nt_sin, [this](const vhValue& e) { return sin_f(e); },
         [unit](double a, double b) { return complexValue(complexSin(toRadians(a, unit), toRadians(b, unit))); },
         [&](double d) { return doubleOrUndefined(sinOf(d, unit, count)); },
-        [&](const double* in, double* out, std::size_t n) { sinBlock(in, out, n, unit, count); }, staysReal);
+        [&](const double* in, double* out, std::size_t n) { sinBlock(in, out, n, unit, count); }, [](double) { return false; });
 }
 
 vhValue vhMath::cos_f(const vhValue& x)
@@ -177,7 +184,7 @@ vhValue vhMath::cos_f(const vhValue& x)
         x, nt_cos, [this](const vhValue& e) { return cos_f(e); },
         [unit](double a, double b) { return complexValue(complexCos(toRadians(a, unit), toRadians(b, unit))); },
         [&](double d) { return doubleOrUndefined(cosOf(d, unit, count)); },
-        [&](const double* in, double* out, std::size_t n) { cosBlock(in, out, n, unit, count); }, staysReal);
+        [&](const double* in, double* out, std::size_t n) { cosBlock(in, out, n, unit, count); }, [](double) { return false; });
 }
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include "functions/vector_math.h"
 
+#include <cmath>
+
 #include <sleef.h>
 
 // The header declares the AVX2 and AVX-512 kernels only for a build that
@@ -101,39 +103,83 @@ Choice& choice()
 // for the whole vector by its largest lane: below 15, below 1e14, or beyond
 // (and NaN). A lane's result differs in the last bit between the ways, so
 // that a number would depend on its neighbours. Each slice of a block is
-// therefore sorted by the way its numbers need: the numbers of one way are
-// computed together, and the zeros that pad a short vector never change the
-// way. A number alone takes the way of its own size, the same as in a block.
+// therefore computed as it is, and the numbers of a vector whose largest lane
+// needed a wider way than their own are done again, sorted by the way they
+// need. The zeros that pad a short vector never change the way, so a number
+// alone takes the way of its own size, the same as in a block.
 int reductionWay(double x)
 {
-    const double a = x < 0 ? -x : x;
+    const double a = std::fabs(x);
     return a < 15.0 ? 0 : a < 1e14 ? 1 : 2;
 }
 
-void byReductionWay(Block kernel, const double* x, double* out, std::size_t n)
+const std::size_t kSlice = 512;
+
+// A slice whose numbers need different ways: each way's numbers gathered,
+// computed together and put back.
+__attribute__((noinline)) void gatherByWay(Block kernel, const double* x, double* out, std::size_t m)
 {
-    const std::size_t slice = 512;
-    double in[3][slice], result[slice];
-    unsigned short index[3][slice];
-    for (std::size_t i = 0; i < n; i += slice) {
-        const std::size_t m = n - i < slice ? n - i : slice;
-        std::size_t count[3] = {0, 0, 0};
+    double in[3][kSlice], result[kSlice];
+    unsigned short index[3][kSlice];
+    std::size_t count[3] = {0, 0, 0};
+    for (std::size_t k = 0; k < m; ++k) {
+        const int w = reductionWay(x[k]);
+        in[w][count[w]] = x[k];
+        index[w][count[w]++] = static_cast<unsigned short>(k);
+    }
+    for (int w = 0; w < 3; ++w) {
+        if (count[w] == 0)
+            continue;
+        kernel(in[w], result, count[w]);
+        for (std::size_t k = 0; k < count[w]; ++k)
+            out[index[w][k]] = result[k];
+    }
+}
+
+// Lanes per vector of each set, in the order of InstructionSet.
+const std::size_t kWidth[] = {2, 4, 8};
+
+void byReductionWay(Block kernel, std::size_t width, const double* x, double* out, std::size_t n)
+{
+    // One number is one way.
+    if (n <= 1) {
+        kernel(x, out, n);
+        return;
+    }
+    double again[kSlice], result[kSlice];
+    unsigned short index[kSlice];
+    for (std::size_t i = 0; i < n; i += kSlice) {
+        const std::size_t m = n - i < kSlice ? n - i : kSlice;
+        // The slice goes through as it is; only the lanes of a vector whose
+        // largest lane needed another way than their own are done again.
+        kernel(x + i, out + i, m);
+        unsigned char way[kSlice];
         for (std::size_t k = 0; k < m; ++k) {
-            const int w = reductionWay(x[i + k]);
-            in[w][count[w]] = x[i + k];
-            index[w][count[w]++] = static_cast<unsigned short>(k);
+            const double a = std::fabs(x[i + k]);
+            way[k] = static_cast<unsigned char>(!(a < 15.0)) + static_cast<unsigned char>(!(a < 1e14));
         }
-        for (int w = 0; w < 3; ++w) {
-            if (count[w] == m) {
-                kernel(x + i, out + i, m);
-                break;
+        std::size_t count = 0;
+        for (std::size_t v = 0; v < m; v += width) {
+            const std::size_t end = v + width < m ? v + width : m;
+            unsigned char top = 0, low = 2;
+            for (std::size_t k = v; k < end; ++k) {
+                top = way[k] > top ? way[k] : top;
+                low = way[k] < low ? way[k] : low;
             }
-            if (count[w] == 0)
+            if (top == low)
                 continue;
-            kernel(in[w], result, count[w]);
-            for (std::size_t k = 0; k < count[w]; ++k)
-                out[i + index[w][k]] = result[k];
+            for (std::size_t k = v; k < end; ++k) {
+                if (way[k] < top) {
+                    again[count] = x[i + k];
+                    index[count++] = static_cast<unsigned short>(k);
+                }
+            }
         }
+        if (count == 0)
+            continue;
+        gatherByWay(kernel, again, result, count);
+        for (std::size_t k = 0; k < count; ++k)
+            out[i + index[k]] = result[k];
     }
 }
 
@@ -153,8 +199,17 @@ bool useInstructionSet(InstructionSet set)
     return true;
 }
 
-void sin(const double* x, double* out, std::size_t n) { byReductionWay(choice().kernels->sin, x, out, n); }
-void cos(const double* x, double* out, std::size_t n) { byReductionWay(choice().kernels->cos, x, out, n); }
+void sin(const double* x, double* out, std::size_t n)
+{
+    const Choice& c = choice();
+    byReductionWay(c.kernels->sin, kWidth[c.current], x, out, n);
+}
+
+void cos(const double* x, double* out, std::size_t n)
+{
+    const Choice& c = choice();
+    byReductionWay(c.kernels->cos, kWidth[c.current], x, out, n);
+}
 void exp(const double* x, double* out, std::size_t n) { choice().kernels->exp(x, out, n); }
 void log(const double* x, double* out, std::size_t n) { choice().kernels->log(x, out, n); }
 

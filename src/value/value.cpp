@@ -92,8 +92,16 @@ vhValue& vhValue::operator=(vhValue&& other) noexcept
         m_valueType = tagVector;
         return *this;
     }
-    // Through a fresh record, so that a source inside this value is emptied
-    // before the old content goes.
+    // A value that holds no values cannot hold the source either: its old
+    // content can go first, and the source moves straight in.
+    if (m_elements.empty() && m_expressionValues.empty() && !m_exponent && !m_multiplier && !m_numerator &&
+        !m_denominator && m_rowNames.empty() && m_columnNames.empty() && m_memberValues.empty()) {
+        freeContent();
+        takeContentFrom(other);
+        return *this;
+    }
+    // Otherwise through a fresh record, so that a source inside this value is
+    // emptied before the old content goes.
     vhValue fresh(std::move(other));
     swapRecord(fresh);
     return *this;
@@ -148,8 +156,11 @@ vhValue::~vhValue()
     delete m_multiplier;
     delete m_numerator;
     delete m_denominator;
-    std::free(m_numericData);
-    std::free(m_imageData);
+    // Most records own no block; this spares them two calls into the C library.
+    if (m_numericData)
+        std::free(m_numericData);
+    if (m_imageData)
+        std::free(m_imageData);
 }
 
 void vhValue::freeContent()
@@ -159,9 +170,11 @@ void vhValue::freeContent()
     delete m_numerator;
     delete m_denominator;
     m_exponent = m_multiplier = m_numerator = m_denominator = nullptr;
-    std::free(m_numericData);
+    if (m_numericData)
+        std::free(m_numericData);
     m_numericData = nullptr;
-    std::free(m_imageData);
+    if (m_imageData)
+        std::free(m_imageData);
     m_imageData = nullptr;
     m_text.clear();
     m_charFormats.clear();

@@ -105,3 +105,17 @@ TEST(ExpansionReference, RepeatedProductsKeepOrderCoefficientsAndText)
     for (std::size_t i = 0; i < all.size(); ++i)
         EXPECT_EQ(line(all[i]), expected[i]) << "case " << i;
 }
+
+// Like terms that cancel leave the sum, and the terms after them still find
+// their partners; a constant and numbers merge as before.
+TEST(ExpansionReference, CancellingTermsLeaveTheProduct)
+{
+    const vhValue x = sym("x"), y = sym("y"), z = sym("z");
+    EXPECT_EQ("x^2-y^2", ((x + y) * (x - y)).toStringAll());
+    EXPECT_EQ("x^3-x y^2+y x^2-y^3", ((x + y) * (x - y) * (x + y)).toStringAll());
+    EXPECT_EQ("x^4-y^4", ((x + y) * (x - y) * (x * x + y * y)).toStringAll());
+    EXPECT_EQ("x^2-2 x z+z^2-1", ((x - z + 1) * (x - z - 1)).toStringAll());
+    // Terms that cancel completely give the number 0.
+    const vhValue zero = (x - y) * (x + y) - (x * x - y * y);
+    EXPECT_TRUE(zero.isZero()) << zero.toStringAll();
+}
