@@ -4,6 +4,8 @@
 // of the quotient, and that term times the divisor is taken off the rest. The
 // division is exact when the rest comes out as zero.
 
+#include <algorithm>
+
 #include "value/value.h"
 
 #include "frame/switches.h"
@@ -123,7 +125,23 @@ vhValue vhExpression::withoutZeroTerms(const vhValue& quotient)
 
 int vhExpression::longDivision(const vhExpression& divisor, bool shrinkTest, vhValue& quotient, vhValue& rest) const
 {
-    quotient = vhExpression();
+    // The terms of the quotient are collected and added up once at the end:
+    // adding each to the growing sum would copy the sum every step.
+    std::vector<vhValue> steps;
+    struct Sum {
+        std::vector<vhValue>& steps;
+        vhValue& quotient;
+        ~Sum()
+        {
+            quotient = vhExpression();
+            if (steps.empty())
+                return;
+            vhExpression first(steps[0]);
+            vhExpression others;
+            others.m_expressionValues.assign(steps.begin() + 1, steps.end());
+            quotient = others.m_expressionValues.empty() ? vhValue(first) : first + others;
+        }
+    } sum{steps, quotient};
     vhExpression r(*this);
     for (const vhValue& t : r.m_expressionValues)
         if (t.isString()) {
@@ -136,13 +154,45 @@ int vhExpression::longDivision(const vhExpression& divisor, bool shrinkTest, vhV
     const vhValue symbol = name.empty() ? vhValue() : vhValue(vhSymbolicValue(name, false, {}));
     const bool richLeading = d.valueType() > tagUnit;
 
+    // Each walk sees the rest arranged as the dividend was: by falling power
+    // of the symbol, equal powers in their order, terms without it last. The
+    // walk follows that order by index; the rest itself is arranged once, when
+    // it is handed out, so that a step does not move every record.
+    std::vector<std::size_t> order;
+    std::vector<double> powers;
+    std::vector<char> holds;
+    auto arrangedOrder = [&]() {
+        const std::size_t n = r.m_expressionValues.size();
+        order.clear();
+        powers.assign(n, 0.0);
+        holds.assign(n, 0);
+        for (std::size_t i = 0; i < n; ++i)
+            holds[i] = !symbol.isNull() && r.m_expressionValues[i].exponentForSymbol(symbol, powers[i], false);
+        for (std::size_t i = 0; i < n; ++i)
+            if (holds[i])
+                order.push_back(i);
+        std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) { return powers[a] > powers[b]; });
+        for (std::size_t i = 0; i < n; ++i)
+            if (!holds[i])
+                order.push_back(i);
+    };
+    struct Arranged {
+        vhExpression& r;
+        const vhValue& symbol;
+        vhValue& rest;
+        ~Arranged()
+        {
+            if (!rest.isNull() && !symbol.isNull())
+                rest.arrangeExponents(symbol);
+        }
+    } arrangeRest{r, symbol, rest};
+
     for (int accepted = 0; accepted < kStepBudget && !internal::RecursionGuard::spent();) {
-        // Each walk sees the rest arranged as the dividend was.
-        if (!symbol.isNull())
-            r.arrangeExponents(symbol);
+        arrangedOrder();
         vhValue q;
         Verdict verdict = Verdict::next;
-        for (const vhValue& t : r.m_expressionValues) {
+        for (std::size_t index : order) {
+            const vhValue& t = r.m_expressionValues[index];
             // Arrays and richer values divide only among themselves.
             if ((t.valueType() > tagUnit) != richLeading) {
                 rest = r;
@@ -176,7 +226,7 @@ int vhExpression::longDivision(const vhExpression& divisor, bool shrinkTest, vhV
             return endOther;
         }
         if (next.isZero()) {
-            quotient += q;
+            steps.push_back(q);
             rest = vhValue();
             return endExact;
         }
@@ -198,7 +248,7 @@ int vhExpression::longDivision(const vhExpression& divisor, bool shrinkTest, vhV
                 return endOther;
             }
         }
-        quotient += q;
+        steps.push_back(std::move(q));
         r.m_expressionValues.swap(nextRest.m_expressionValues);
         ++accepted;
     }
