@@ -232,6 +232,14 @@ public:
     // (end of host types)
 
     // --- fractions, division and substitution ---
+    // The symbols of a value as a column vector, undefined when it has none.
+    vhValue symbols_f(const vhValue& v);
+    // Whether the value holds the plain symbol; undefined for anything else
+    // as the second argument.
+    vhValue containSymbol_f(const vhValue& v, const vhValue& symbol);
+    // The value with symbols replaced: a plain symbol and one value, or two
+    // vectors of equal size. Units are not replaced.
+    vhValue replaceSymbols_f(const vhValue& v, const vhValue& symbols, const vhValue& values);
     // (end of fractions, division and substitution)
 
     // --- number theory and transforms ---

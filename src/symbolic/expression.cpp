@@ -202,6 +202,11 @@ bool addTerms(std::vector<vhValue>& a, std::vector<vhValue>& b, bool subtract, M
                 order[i] = i;
         }
         for (const std::size_t i : order) {
+            // A term that cancelled earlier in this walk is dropped at the
+            // end; it must not take in a later term, or (1 + x) + (-1 - x)
+            // would keep -x beside x.
+            if (a[i].isZero())
+                continue;
             vhValue r;
             if (!internal::markedPairCannotMerge(a[i], term))
                 r = subtract ? a[i] - term : a[i] + term;
@@ -376,18 +381,6 @@ vhValue vhExpression::operator*(const vhValue& other) const
     result.m_expressionValues.swap(product);
     result.arrangeExponentsForFirstSymbol(true);
     return result;
-}
-
-// Factoring and division of sums belong to polynomial division, which lives
-// with the fractions.
-std::vector<vhValue> vhExpression::factorize() const { return std::vector<vhValue>(); }
-
-// Division of sums is polynomial division, which lives with the fractions.
-vhValue vhExpression::operator/(const vhValue& other) const
-{
-    if (m_valueType != tagExpression)
-        return vhValue::operator/(other);
-    return vhValue();
 }
 
 bool vhExpression::operator==(const vhValue& other) const

@@ -4,7 +4,6 @@
 #include "value/value.h"
 
 #include "symbolic/atom_internal.h"
-#include "symbolic/symbol_walk.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -69,11 +68,8 @@ void vhValue::arrangeExponentsForFirstSymbol(bool onlyOneSymbol)
 {
     if (isNull())
         return;
-    auto lists = internal::recordLists(
-        [](const vhValue& v) -> const std::vector<vhValue>& { return v.m_elements; },
-        [](const vhValue& v) -> const std::vector<vhValue>& { return v.m_expressionValues; });
     std::vector<std::string> names;
-    internal::collectSymbolNames(*this, names, false, lists);
+    symbols(names, false);
     if (names.empty() || (onlyOneSymbol && names.size() > 1))
         return;
     arrangeExponents(vhSymbolicValue(names[0], false, std::vector<CharFormat>()));

@@ -6,7 +6,6 @@
 #include "value/value.h"
 
 #include "functions/elementary.h"
-#include "symbolic/symbol_walk.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
@@ -27,11 +26,8 @@ std::vector<vhValue> vhExpression::simplify() const
 {
     if (isNull() || m_valueType != tagExpression)
         return std::vector<vhValue>();
-    auto lists = internal::recordLists(
-        [](const vhValue& v) -> const std::vector<vhValue>& { return v.m_elements; },
-        [](const vhValue& v) -> const std::vector<vhValue>& { return v.m_expressionValues; });
     std::vector<std::string> names;
-    internal::collectSymbolNames(*this, names, false, lists);
+    symbols(names, false);
     const std::vector<vhValue>& t = m_expressionValues;
 
     if (t.size() == 3 && names.size() == 2) {

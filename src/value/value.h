@@ -370,6 +370,79 @@ public:
     vhValue arrangeExponentsConst(const vhValue& symbol) const;
     vhValue arrangeExponentsForFirstSymbolConst(bool onlyOneSymbol) const;
 
+    // --- fractions and coefficients ----------------------------------------
+    // A sum joined into one fraction over the product of the denominators.
+    // Nothing reduces meanwhile, and the fractions switch is left on.
+    void expressionToFraction();
+    vhValue expressionToFractionConst() const;
+    // Fractions, also inside products, sums and arrays, become numerator
+    // times the denominator to the power -1.
+    void fractionToExpression();
+    vhValue fractionToExpressionConst() const;
+    // The sum of term / symbol over the terms that hold the plain symbol: the
+    // coefficient of a polynomial in it. Undefined for anything but a plain
+    // symbol.
+    vhValue coefficientForSymbol(const vhValue& symbol) const;
+    // The same for a first-degree dependence only: undefined when a term
+    // still holds the symbol after the division, the empty expression for an
+    // argument that is no plain symbol.
+    vhValue coefficientFirstDegreeForSymbol(const vhValue& symbol) const;
+
+    // --- symbols and substitution ---------------------------------------------
+    // The names of the symbols, once each in order of first appearance: inner
+    // factors of a product first, the arguments of held functions, elements,
+    // terms and both sides of fractions and equations. A string counts by its
+    // text; units only with includeUnits. The first form appends names not
+    // yet listed and returns the list's size; the second clears the list and
+    // fills it with plain symbols; the third gives a column vector of them,
+    // undefined when there are none.
+    unsigned int symbols(std::vector<std::string>& names, bool includeUnits) const;
+    unsigned int symbols(std::vector<vhValue>& list, bool includeUnits) const;
+    vhValue symbols(bool includeUnits) const;
+    bool containSymbol(const std::string& name) const;
+    // The argument must be a plain symbol.
+    bool containSymbol(const vhValue& symbol) const;
+    // A circular function or its inverse occurs anywhere inside; hyperbolic
+    // functions don't count.
+    bool containTrigonometry() const;
+    // Replaces the named symbols by the values, in place; held functions whose
+    // arguments become numbers are evaluated through math. Without a math
+    // object the process-wide switches hold and held functions stay held with
+    // their new arguments. Strings are never replaced. Lists of unequal
+    // length change nothing.
+    void replaceSymbolicValues(vhMath* math, const std::vector<std::string>& names,
+                               const std::vector<vhValue>& values, bool includeUnits);
+    vhValue replaceSymbolicValuesConst(vhMath* math, const std::vector<std::string>& names,
+                                       const std::vector<vhValue>& values, bool includeUnits) const;
+    // Two vectors of equal size: the names are the texts of the first's
+    // elements.
+    void replaceSymbolicValues(vhMath* math, const vhValue& symbols, const vhValue& values, bool includeUnits);
+    vhValue replaceSymbolicValuesConst(vhMath* math, const vhValue& symbols, const vhValue& values,
+                                       bool includeUnits) const;
+    // An empty name or an undefined value does nothing.
+    void replaceSymbolicValue(vhMath* math, const std::string& name, const vhValue& value, bool includeUnits);
+    vhValue replaceSymbolicValueConst(vhMath* math, const std::string& name, const vhValue& value,
+                                      bool includeUnits) const;
+    // By the name of a plain symbol.
+    void replaceSymbolicValue(vhMath* math, const vhValue& symbol, const vhValue& value, bool includeUnits);
+    vhValue replaceSymbolicValueConst(vhMath* math, const vhValue& symbol, const vhValue& value,
+                                      bool includeUnits) const;
+    void replaceSymbolicValue(vhMath* math, const std::string& name, double value, bool includeUnits);
+    vhValue replaceSymbolicValueConst(vhMath* math, const std::string& name, double value, bool includeUnits) const;
+    // Replaces held functions equal to the patterns (plain calls, exponent
+    // and coefficient 1) by the values; a power of a pattern becomes the
+    // same power of its value.
+    void replaceSymbolicFunctions(vhMath* math, const vhValue& functions, const vhValue& values);
+    vhValue replaceSymbolicFunctionsConst(vhMath* math, const vhValue& functions, const vhValue& values) const;
+    void replaceSymbolicFunction(vhMath* math, const vhValue& function, const vhValue& value);
+    vhValue replaceSymbolicFunctionConst(vhMath* math, const vhValue& function, const vhValue& value) const;
+    // Moves the terms that hold each symbol (a plain symbol or a vector of
+    // them) out of this value: each is added negated to both sides, so the
+    // difference of the sides stays. The second form moves the terms that
+    // don't hold it.
+    bool moveThisSymbolsTo(const vhValue& symbols, vhValue& other);
+    bool moveOtherThenThisSymbolsTo(const vhValue& symbols, vhValue& other);
+
 protected:
     // Frees every owned block and resets all fields; keeps the sweep flag.
     void freeContent();
@@ -390,6 +463,19 @@ protected:
     bool growForIndex(unsigned int i);
     // Replaces an owned pointer field by a deep copy of source (or null).
     static void replaceOwned(vhValue*& field, const vhValue* source);
+    // The walk behind symbols() and containTrigonometry(): visit sees every
+    // atom factor (inner factors of a chain first), the atoms inside held
+    // functions' arguments, array elements, terms and both sides of fractions
+    // and equations. True from visit ends the walk, which then returns true.
+    static bool walkAtoms(const vhValue& v, bool (*visit)(const vhValue& atom, void* context), void* context,
+                          int depth);
+    // The structure walk of substitution: array elements, the terms of a sum
+    // (added anew), both parts of a fraction (reduced anew) and the factors
+    // of a product. The outermost atom of each product goes to atomEntry,
+    // after the arguments of a held function have been walked; it answers
+    // whether it changed the atom. A product in which nothing changed stays
+    // exactly as it was. True when anything changed.
+    static bool substituteIn(vhValue& v, bool (*atomEntry)(vhValue& atom, void* context), void* context, int depth);
     // The single-item rule: the term of a one-term expression, repeatedly.
     const vhValue& fullGrade() const;
     // The same, but only when the term is a vector or a matrix.
@@ -636,18 +722,34 @@ public:
     VH_VALUE_ARITHMETIC_OVERRIDES
     std::vector<vhValue> factorize() const override;
     std::vector<vhValue> simplify() const override;
+    using vhValue::division;
+    // Long division by the first symbol of the divisor. The result is the
+    // quotient; remainder is left undefined when the division is exact.
+    // Undefined (or an empty expression) when no quotient is found; depth
+    // above 1 refuses.
+    vhValue division(const vhValue& divisor, vhValue& remainder, int depth) const;
 
 private:
     // The walk of + and -: each term of other joins the sum.
     vhValue sumWith(const vhValue& other, bool subtract) const;
+    // The loop of long division of this arranged sum by an arranged divisor,
+    // shared by division and operator/. Returns how it ended (see the source).
+    int longDivision(const vhExpression& divisor, bool shrinkTest, vhValue& quotient, vhValue& rest) const;
+    // A quotient as an expression without zero terms; undefined when a term is.
+    static vhValue withoutZeroTerms(const vhValue& quotient);
 };
 
 class VH_EXPORT vhFraction : public vhValue {
 public:
     vhFraction();
     vhFraction(const vhValue& v);
+    // Both parts become expressions, then the fraction reduces at once, and
+    // may turn into a value of another kind.
     vhFraction(const vhValue& numerator, const vhValue& denominator);
     VH_VALUE_ARITHMETIC_OVERRIDES
+    using vhValue::divide;
+    // Reduces in place while the fractions switch is on.
+    void divide();
 };
 
 class VH_EXPORT vhEquation : public vhValue {

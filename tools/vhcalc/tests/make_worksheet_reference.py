@@ -134,6 +134,15 @@ rows = [
     # (end of host types)
 
     # --- fractions, division and substitution ---
+    # Exact division of sums, and quotients that stay fractions.
+    ("", "(x^2 - 1) / (x - 1)", "text", "x+1"),
+    ("", "(x - 1) / (x^2 - 1)", "text", "(1)/(x+1)"),
+    ("", "x / (x + 1)", "type", "fraction"),
+    # Substitution gives numbers; symbols and their test.
+    ("", "replaceSymbols(3*x^2 + 1, x, 2)", "value", "13"),
+    ("", "replaceSymbols(x*y + 1, [x, y], [2, 3])", "value", "7"),
+    ("", "replaceSymbols(x, [x, y], [2])", "value", "null"),
+    ("", "containSymbol(x + y, y)", "value", "true"),
     # (end of fractions, division and substitution)
 
     # --- number theory and transforms ---
