@@ -105,8 +105,8 @@ vhValue vhMath::decCholesky_f(const vhValue& A)
     if (!linalg::isNumericMatrix(A) || !admitsCholesky(*this, A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::LLT<ComplexMatrix> llt(M);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
+        Eigen::LLT<linalg::InPlace> llt(M);
         const ComplexMatrix L = llt.matrixL();
         return linalg::fromComplexMatrix(L);
     });
@@ -117,15 +117,14 @@ vhValue vhMath::decCholeskyLDP_f(const vhValue& A)
     if (!linalg::isNumericMatrix(A) || !admitsCholesky(*this, A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::LDLT<ComplexMatrix> ldlt(M);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
         const Eigen::Index n = M.rows();
+        Eigen::LDLT<linalg::InPlace> ldlt(M);
         const ComplexMatrix L = ldlt.matrixL();
         const ComplexMatrix D = ldlt.vectorD().asDiagonal();
         // P A P' = L D L'.
         const ComplexMatrix P = ldlt.transpositionsP() * ComplexMatrix::Identity(n, n);
-        return linalg::factorVector(
-            {linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P)});
+        return linalg::factorVector(linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P));
     });
 }
 
