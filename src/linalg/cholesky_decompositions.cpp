@@ -16,13 +16,32 @@ using linalg::ComplexMatrix;
 
 namespace {
 
-// Both predicates true: the matrix may be factored. The factorisations do
-// not look at their own success flag afterwards; the tests are the guard.
-bool admitsCholesky(vhMath& math, const vhValue& A)
+// All eigenvalues of the Hermitian matrix M positive. An eigenvalue within
+// rounding of zero, relative to the largest, is not taken as positive: a
+// singular matrix stays out whatever sign the rounding gave it.
+bool hasPositiveSpectrum(const ComplexMatrix& M)
+{
+    Eigen::SelfAdjointEigenSolver<ComplexMatrix> solver(M, Eigen::EigenvaluesOnly);
+    if (solver.info() != Eigen::Success)
+        throw linalg::frameFailure;
+    const Eigen::VectorXd& lambda = solver.eigenvalues();
+    const double largest = lambda.cwiseAbs().maxCoeff();
+    const double noise = double(M.rows()) * 2.220446049250313e-16 * largest;
+    for (Eigen::Index i = 0; i < lambda.size(); ++i)
+        if (!(lambda(i) > noise))
+            return false;
+    return true;
+}
+
+// The first of the two admission tests of the factorisations; the second,
+// positive definiteness, runs on the converted copy that is then factored,
+// which gives the answer of positiveDefinite_f without converting twice.
+// The factorisations do not look at their own success flag afterwards; the
+// tests are the guard.
+bool isHermitianMatrix(vhMath& math, const vhValue& A)
 {
     const vhValue hermitian = math.isHermitian_f(A);
-    const vhValue definite = math.positiveDefinite_f(A);
-    return hermitian.isBoolean() && hermitian.toBool() && definite.isBoolean() && definite.toBool();
+    return hermitian.isBoolean() && hermitian.toBool();
 }
 
 bool isNumber(const vhValue& v) { return !v.isNull() && v.valueType() <= tagComplex; }
@@ -82,31 +101,19 @@ vhValue vhMath::positiveDefinite_f(const vhValue& A)
         return vhValue();
     if (!hermitian.toBool())
         return vhBoolean(false);
-    return linalg::guardedFactorisation([&]() -> vhValue {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::SelfAdjointEigenSolver<ComplexMatrix> solver(M, Eigen::EigenvaluesOnly);
-        if (solver.info() != Eigen::Success)
-            return vhValue();
-        const Eigen::VectorXd& lambda = solver.eigenvalues();
-        const double largest = lambda.cwiseAbs().maxCoeff();
-        // An eigenvalue within rounding of zero, relative to the largest, is
-        // not taken as positive: a singular matrix stays out whatever sign
-        // the rounding gave it.
-        const double noise = double(M.rows()) * 2.220446049250313e-16 * largest;
-        for (Eigen::Index i = 0; i < lambda.size(); ++i)
-            if (!(lambda(i) > noise))
-                return vhBoolean(false);
-        return vhBoolean(true);
-    });
+    return linalg::guardedFactorisation(
+        [&]() -> vhValue { return vhBoolean(hasPositiveSpectrum(linalg::toComplexMatrix(A))); });
 }
 
 vhValue vhMath::decCholesky_f(const vhValue& A)
 {
-    if (!linalg::isNumericMatrix(A) || !admitsCholesky(*this, A))
+    if (!linalg::isNumericMatrix(A) || !isHermitianMatrix(*this, A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::LLT<ComplexMatrix> llt(M);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
+        if (!hasPositiveSpectrum(M))
+            throw linalg::frameFailure;
+        Eigen::LLT<linalg::InPlace> llt(M);
         const ComplexMatrix L = llt.matrixL();
         return linalg::fromComplexMatrix(L);
     });
@@ -114,18 +121,19 @@ vhValue vhMath::decCholesky_f(const vhValue& A)
 
 vhValue vhMath::decCholeskyLDP_f(const vhValue& A)
 {
-    if (!linalg::isNumericMatrix(A) || !admitsCholesky(*this, A))
+    if (!linalg::isNumericMatrix(A) || !isHermitianMatrix(*this, A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::LDLT<ComplexMatrix> ldlt(M);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
+        if (!hasPositiveSpectrum(M))
+            throw linalg::frameFailure;
         const Eigen::Index n = M.rows();
+        Eigen::LDLT<linalg::InPlace> ldlt(M);
         const ComplexMatrix L = ldlt.matrixL();
         const ComplexMatrix D = ldlt.vectorD().asDiagonal();
         // P A P' = L D L'.
         const ComplexMatrix P = ldlt.transpositionsP() * ComplexMatrix::Identity(n, n);
-        return linalg::factorVector(
-            {linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P)});
+        return linalg::factorVector(linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P));
     });
 }
 

@@ -107,7 +107,7 @@ vhValue vhMath::diagonalization_f(const vhValue& A)
             return vhValue();
         const ComplexMatrix D = solver.eigenvalues().asDiagonal();
         const ComplexMatrix P = solver.eigenvectors();
-        return linalg::factorVector({linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P)});
+        return linalg::factorVector(linalg::fromComplexMatrix(D), linalg::fromComplexMatrix(P));
     });
 }
 

@@ -53,14 +53,17 @@ vhValue fromComplexMatrix(const ComplexMatrix& M)
     double* im = result.numericImValues();
     if (!re || (complex && !im))
         throw frameFailure;
-    for (Eigen::Index i = 0; i < rows; ++i)
-        for (Eigen::Index j = 0; j < columns; ++j) {
+    // Down the columns of the library's matrix, across the rows of ours.
+    const std::complex<double>* source = M.data();
+    for (Eigen::Index j = 0; j < columns; ++j)
+        for (Eigen::Index i = 0; i < rows; ++i) {
             const std::size_t k = std::size_t(i) * std::size_t(columns) + std::size_t(j);
-            re[k] = M(i, j).real();
+            const std::complex<double> z = source[std::size_t(j) * std::size_t(rows) + std::size_t(i)];
+            re[k] = z.real();
             if (complex)
-                im[k] = M(i, j).imag();
+                im[k] = z.imag();
         }
-    return result;
+    return vhValue(std::move(result));
 }
 
 void checkFactorSize(Eigen::Index rows, Eigen::Index columns)
@@ -71,18 +74,22 @@ void checkFactorSize(Eigen::Index rows, Eigen::Index columns)
         throw frameFailure;
 }
 
-vhValue factorVector(std::initializer_list<vhValue> factors)
+vhValue packFactors(std::vector<vhValue>& factors)
 {
-    vhVector result(static_cast<unsigned int>(factors.size()), true, true, false);
-    unsigned int i = 0;
-    for (const vhValue& f : factors) {
-        if (f.isNull())
+    const unsigned int count = static_cast<unsigned int>(factors.size());
+    vhVector result(count, true, true, false);
+    // The first value that is no number turns the vector into one of
+    // values; the factors then move into their places.
+    result.setValue(vhSymbolicValue("_", false, std::vector<CharFormat>()), 0);
+    for (unsigned int i = 0; i < count; ++i) {
+        vhValue* slot = result.get_vector_index_address(i);
+        if (!slot || factors[i].isNull())
             throw frameFailure;
-        result.setValue(f, i++);
+        *slot = std::move(factors[i]);
     }
-    if (result.vectorSize() != factors.size())
+    if (result.vectorSize() != count)
         throw frameFailure;
-    return result;
+    return vhValue(std::move(result));
 }
 
 unsigned int relativeRank(const ComplexMatrix& M)

@@ -9,7 +9,8 @@
 // Failures inside the frame throw the integer 2; the members catch every
 // exception and answer with the undefined value.
 
-#include <initializer_list>
+#include <utility>
+#include <vector>
 
 #include <Eigen/Dense>
 
@@ -20,6 +21,8 @@ namespace ValueTypes {
 namespace linalg {
 
 typedef Eigen::MatrixXcd ComplexMatrix;
+// The decompositions work in place on the converted copy, which is theirs.
+typedef Eigen::Ref<ComplexMatrix> InPlace;
 
 // The error a frame step throws; caught by the member's catch-all.
 const int frameFailure = 2;
@@ -40,8 +43,17 @@ vhValue fromComplexMatrix(const ComplexMatrix& M);
 // matrix grow with the square of its longer side.
 void checkFactorSize(Eigen::Index rows, Eigen::Index columns);
 
-// The row vector of factors, one matrix per element.
-vhValue factorVector(std::initializer_list<vhValue> factors);
+// The row vector of factors, one matrix per element. The factors are moved
+// into their places, not copied: they are as large as the argument.
+vhValue packFactors(std::vector<vhValue>& factors);
+
+template <class... Factors> vhValue factorVector(Factors&&... factors)
+{
+    std::vector<vhValue> list;
+    list.reserve(sizeof...(factors));
+    (list.push_back(std::forward<Factors>(factors)), ...);
+    return packFactors(list);
+}
 
 // The members that hand out a single factor: they refuse an argument that
 // is null or not numeric, and otherwise take element i of their parent's

@@ -20,7 +20,7 @@ vhValue vhMath::decHessenberg_f(const vhValue& A)
         // H first, then Q: A = Q H Q'.
         const ComplexMatrix H = hd.matrixH();
         const ComplexMatrix Q = hd.matrixQ();
-        return linalg::factorVector({linalg::fromComplexMatrix(H), linalg::fromComplexMatrix(Q)});
+        return linalg::factorVector(linalg::fromComplexMatrix(H), linalg::fromComplexMatrix(Q));
     });
 }
 

@@ -42,7 +42,7 @@ vhValue vhMath::decLU_f(const vhValue& A)
         // means a singular matrix, which has no inverse.
         if (n > cofactorTestLimit && U(n - 1, n - 1) == std::complex<double>(0.0, 0.0))
             throw linalg::frameFailure;
-        return linalg::factorVector({linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(U)});
+        return linalg::factorVector(linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(U));
     });
 }
 
@@ -66,12 +66,12 @@ vhValue vhMath::decLUPQ_f(const vhValue& A)
     if (n <= cofactorTestLimit && !hasCofactorInverse(A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
-        Eigen::FullPivLU<ComplexMatrix> lu(M);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
+        Eigen::FullPivLU<linalg::InPlace> lu(M);
         // A pivot that is exactly zero: the matrix is singular.
         if (lu.nonzeroPivots() != Eigen::Index(n))
             throw linalg::frameFailure;
-        const ComplexMatrix& packed = lu.matrixLU();
+        const auto& packed = lu.matrixLU();
         ComplexMatrix L = ComplexMatrix::Identity(n, n);
         L.triangularView<Eigen::StrictlyLower>() = packed.triangularView<Eigen::StrictlyLower>();
         ComplexMatrix U = packed.triangularView<Eigen::Upper>();
@@ -79,8 +79,8 @@ vhValue vhMath::decLUPQ_f(const vhValue& A)
         // P A Q = L U.
         const ComplexMatrix P = lu.permutationP() * I;
         const ComplexMatrix Q = I * lu.permutationQ();
-        return linalg::factorVector({linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(U),
-                                     linalg::fromComplexMatrix(P), linalg::fromComplexMatrix(Q)});
+        return linalg::factorVector(linalg::fromComplexMatrix(L), linalg::fromComplexMatrix(U),
+                                     linalg::fromComplexMatrix(P), linalg::fromComplexMatrix(Q));
     });
 }
 

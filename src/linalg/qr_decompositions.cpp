@@ -16,13 +16,13 @@ vhValue vhMath::decQR_f(const vhValue& A)
     if (!linalg::isNumericMatrix(A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
         linalg::checkFactorSize(M.rows(), M.rows());
-        Eigen::HouseholderQR<ComplexMatrix> qr(M);
+        Eigen::HouseholderQR<linalg::InPlace> qr(M);
         // The full square Q, and R with the shape of A: A = Q R.
         const ComplexMatrix Q = qr.householderQ();
         const ComplexMatrix R = qr.matrixQR().triangularView<Eigen::Upper>();
-        return linalg::factorVector({linalg::fromComplexMatrix(Q), linalg::fromComplexMatrix(R)});
+        return linalg::factorVector(linalg::fromComplexMatrix(Q), linalg::fromComplexMatrix(R));
     });
 }
 
@@ -41,16 +41,16 @@ vhValue vhMath::decQRP_f(const vhValue& A)
     if (!linalg::isNumericMatrix(A))
         return vhValue();
     return linalg::guardedFactorisation([&] {
-        const ComplexMatrix M = linalg::toComplexMatrix(A);
+        ComplexMatrix M = linalg::toComplexMatrix(A);
         linalg::checkFactorSize(M.rows(), M.rows());
         linalg::checkFactorSize(M.cols(), M.cols());
-        Eigen::ColPivHouseholderQR<ComplexMatrix> qr(M);
+        const Eigen::Index columns = M.cols();
+        Eigen::ColPivHouseholderQR<linalg::InPlace> qr(M);
         // A P = Q R.
         const ComplexMatrix Q = qr.householderQ();
         const ComplexMatrix R = qr.matrixQR().triangularView<Eigen::Upper>();
-        const ComplexMatrix P = ComplexMatrix::Identity(M.cols(), M.cols()) * qr.colsPermutation();
-        return linalg::factorVector(
-            {linalg::fromComplexMatrix(Q), linalg::fromComplexMatrix(R), linalg::fromComplexMatrix(P)});
+        const ComplexMatrix P = ComplexMatrix::Identity(columns, columns) * qr.colsPermutation();
+        return linalg::factorVector(linalg::fromComplexMatrix(Q), linalg::fromComplexMatrix(R), linalg::fromComplexMatrix(P));
     });
 }
 

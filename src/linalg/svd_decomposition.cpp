@@ -29,8 +29,7 @@ vhValue vhMath::decSVD_f(const vhValue& A)
             S(i, i) = sigma(i);
         const ComplexMatrix U = svd.matrixU();
         const ComplexMatrix V = svd.matrixV();
-        return linalg::factorVector(
-            {linalg::fromComplexMatrix(U), linalg::fromComplexMatrix(S), linalg::fromComplexMatrix(V)});
+        return linalg::factorVector(linalg::fromComplexMatrix(U), linalg::fromComplexMatrix(S), linalg::fromComplexMatrix(V));
     });
 }
 

@@ -229,6 +229,24 @@ rows = [
     # (end of distributions, random numbers, statistics and numeric calculus)
 
     # --- decompositions and linear equations ---
+    ("", "decLUL([4, 3; 6, 3])", "data", "[1, 0, 1.5, 1]"),
+    ("", "decLUU([4, 3; 6, 3])", "text", "[4, 3]\\n[0, -1.5]"),
+    # A zero first pivot: the plain elimination has no factors, the pivoting one has four.
+    ("", "decLU([0, 1; 1, 0])", "value", "null"),
+    ("", "decLUPQ([0, 1; 1, 0])", "type", "vector"),
+    ("", "decCholesky([4, 2; 2, 3])", "data", "[2, 0, 1, 1.4142135623730951]"),
+    ("", "decSVDS([3, 0; 0, 4])", "data", "[4, 0, 0, 3]"),
+    ("", "rank([1, 0; 0, 1e-7])", "value", "1"),
+    ("", "characteristicPolynomialRoots([1, 0; 0, 1])", "data", "[1, 1]"),
+    ("", "diagonalization([1, 1; 0, 1])", "value", "null"),
+    ("", "charpoly([2, 1; 1, 3], x)", "text", "x^2-5 x+5"),
+    ("", "matrixDeterminant([4, 3; 6, 3])", "value", "-6"),
+    ("", "matRREForm([1, 2, 3; 4, 5, 6])", "text", "[1, 0, -1]\\n[0, 1, 2]"),
+    ("", "isHermitian([1, 2; 2, 1])", "value", "true"),
+    ("", 'linsolve(equation(x + 1, "==", 3), x)', "value", "2"),
+    ("", 'linsolve(equation(x, "<", 3), x)', "value", "null"),
+    ("", 'linsolvesys([equation(2*x + 3, "==", y + 7); equation(x - y, "==", 1)], [x; y])', "data", "[3, 2]"),
+    ("", 'linSysMatrix([equation(2*x + 3, "==", y + 7); equation(x - y, "==", 1)], [x; y])', "data", "[2, -1, 1, -1]"),
     # (end of decompositions and linear equations)
 
     # --- finance, coordinates, geometry, conversions and chemistry ---
