@@ -7,30 +7,17 @@
 #include <vector>
 
 #include "frame/math.h"
-#include "symbolic/symbol_walk.h"
 
 namespace VarnholtMath {
 namespace ValueTypes {
 
 namespace {
 
-// The names of the symbols in v, by the public accessors of the record.
+// The names of the symbols in v, in order of first appearance.
 std::vector<std::string> symbolNames(const vhValue& v)
 {
-    auto lists = internal::recordLists(
-        [](const vhValue& x) {
-            std::vector<vhValue> items;
-            if (x.valueType() == tagSymbolicFunction)
-                return x.functionArguments();
-            if ((x.valueType() == tagVector || x.valueType() == tagMatrix) && !x.isNumericVectorOrMatrix() &&
-                !x.isImage())
-                for (unsigned int i = 0; i < x.vectorSize(); ++i)
-                    items.push_back(x.value(i));
-            return items;
-        },
-        [](const vhValue& x) { return x.expressionValues(); });
     std::vector<std::string> names;
-    internal::collectSymbolNames(v, names, false, lists);
+    v.symbols(names, false);
     return names;
 }
 
