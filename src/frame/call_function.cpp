@@ -433,10 +433,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_TypeMethodArguments:
         result = math->TypeMethodArguments_f(a[0], a[1]);
         break;
-    // (end of host types)
-
-    // --- fractions, division and substitution ---
-    // (end of fractions, division and substitution)
 
     // --- number theory and transforms ---
     case nt_gcd:
@@ -544,7 +540,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_complexRe:
         result = math->complexRe_f(a[0]);
         break;
-    // (end of number theory and transforms)
 
     // --- images ---
     case nt_IsImage:
@@ -643,7 +638,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_ImageMsePsnr:
         result = math->ImageMsePsnr_f(a[0], a[1]);
         break;
-    // (end of images)
 
     // --- filter design and running filters ---
     case nt_makeWindow:
@@ -727,9 +721,8 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_firfreqsampl:
         result = math->firfreqsampl_f(a[0], a[1], a[2], a[3]);
         break;
-    // (end of filter design and running filters)
 
-    // --- distributions, random numbers, statistics and numeric calculus ---
+    // --- distributions, random numbers and statistics ---
     case nt_average:
         result = math->average_f(a[0]);
         break;
@@ -1087,7 +1080,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_logarithmicRandMat:
         result = math->logarithmicRandMat_f(a[0], a[1], a[2]);
         break;
-    // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
     case nt_decLU:
@@ -1219,7 +1211,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_linSysSplit:
         result = math->linSysSplit_f(a[0], a[1]);
         break;
-    // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---
     case nt_Decimal2Binary:
@@ -1501,7 +1492,6 @@ vhValue callFunction(vhMath* math, NodeType id, const std::vector<vhValue>& argu
     case nt_intersecsurface:
         result = math->surfaceIntersection_f(a[0], a[1]);
         break;
-    // (end of finance, coordinates, geometry, conversions and chemistry)
 
     default:
         break;

@@ -229,7 +229,6 @@ public:
     // argument arrives as the undefined value; the answer of create is
     // returned as it is.
     vhValue ObjectCreate_f(unsigned int n, ...);
-    // (end of host types)
 
     // --- fractions, division and substitution ---
     // The symbols of a value as a column vector, undefined when it has none.
@@ -240,7 +239,6 @@ public:
     // The value with symbols replaced: a plain symbol and one value, or two
     // vectors of equal size. Units are not replaced.
     vhValue replaceSymbols_f(const vhValue& v, const vhValue& symbols, const vhValue& values);
-    // (end of fractions, division and substitution)
 
     // --- number theory and transforms ---
     // Whole-number functions compute in 32-bit signed integers that wrap
@@ -294,7 +292,6 @@ public:
     vhValue ifwht_f(const vhValue& Y, const vhValue& n, const vhValue& order);
     vhValue flip_f(const vhValue& v, const vhValue& direction);
     vhValue complexRe_f(const vhValue& z);
-    // (end of number theory and transforms)
 
     // --- images ---
     // Pixels are packed words: blue in bits 0-7, green 8-15, red 16-23,
@@ -333,7 +330,6 @@ public:
     vhValue ImageMedian_f(const vhValue& image, const vhValue& size);
     vhValue ImageAbsDiff_f(const vhValue& a, const vhValue& b);
     vhValue ImageMsePsnr_f(const vhValue& a, const vhValue& b);
-    // (end of images)
 
     // --- filter design and running filters ---
     // Windows and windowed-sinc FIR designs: numeric column vectors.
@@ -396,9 +392,8 @@ public:
     vhValue firoptord_f(const vhValue& passEdge, const vhValue& stopEdge, const vhValue& passRipple,
                         const vhValue& stopRipple, const vhValue& rate);
     vhValue firfreqsampl_f(const vhValue& samples, const vhValue& count, const vhValue& type, const vhValue& length);
-    // (end of filter design and running filters)
 
-    // --- distributions, random numbers, statistics and numeric calculus ---
+    // --- distributions, random numbers and statistics ---
     // Descriptive statistics: one number from the numbers of a vector or
     // matrix; the row and column forms give one per row or column.
     vhValue average_f(const vhValue& v);
@@ -530,7 +525,6 @@ public:
     vhValue logarithmicRandNum_f(const vhValue& p);
     vhValue logarithmicRandVec_f(const vhValue& p, const vhValue& size);
     vhValue logarithmicRandMat_f(const vhValue& p, const vhValue& rows, const vhValue& columns);
-    // (end of distributions, random numbers, statistics and numeric calculus)
 
     // --- decompositions and linear equations ---
     // Decompositions of a numeric matrix, computed in complex arithmetic.
@@ -580,7 +574,6 @@ public:
     vhValue linSysMatrix_f(const vhValue& equations, const vhValue& symbols);
     vhValue linSysTerms_f(const vhValue& equations, const vhValue& symbols);
     vhValue linSysSplit_f(const vhValue& equations, const vhValue& symbols);
-    // (end of decompositions and linear equations)
 
     // --- finance, coordinates, geometry, conversions and chemistry ---
     // Conversions of bases, units and angles; bits of integers.
@@ -689,7 +682,6 @@ public:
     vhValue surfaceIntersection_f(const vhValue& first, const vhValue& second);
     // Chemistry: coefficients of a reaction from its element-count matrix.
     vhValue chemSolver_f(const vhValue& reactionMatrix);
-    // (end of finance, coordinates, geometry, conversions and chemistry)
 
 private:
     void (*m_appProcessEventsCallback)();
@@ -710,13 +702,6 @@ private:
     double* m_iirFilterBuffers[filterSlots];
     unsigned int m_iirFilterBufferSizes[filterSlots];
 
-    // --- state: host types ---
-    // (end of state: host types)
-
-    // --- state: fractions, division and substitution ---
-    // (end of state: fractions, division and substitution)
-
-    // --- state: number theory and transforms ---
     // The background transform: one job at a time. fftJobsRunning is 1
     // while the worker runs; it is read and written atomically.
     std::int32_t fftJobsRunning = 0;
@@ -732,22 +717,6 @@ private:
     void runFourierJob();
     // Waits for a started worker and releases it; the destructor calls it.
     void finishFourierJob();
-    // (end of state: number theory and transforms)
-
-    // --- state: images ---
-    // (end of state: images)
-
-    // --- state: filter design and running filters ---
-    // (end of state: filter design and running filters)
-
-    // --- state: distributions, random numbers, statistics and numeric calculus ---
-    // (end of state: distributions, random numbers, statistics and numeric calculus)
-
-    // --- state: decompositions and linear equations ---
-    // (end of state: decompositions and linear equations)
-
-    // --- state: finance, coordinates, geometry, conversions and chemistry ---
-    // (end of state: finance, coordinates, geometry, conversions and chemistry)
 };
 
 // Calls the member of the catalogue row id with the arguments. The count of

@@ -131,7 +131,6 @@ rows = [
     ("--demo-type", 'TypeMembers("point")', "data", '["x", "y"]'),
     ("--demo-type", 'TypeMethodArguments("point", "x")', "value", "null"),
     ("", "DefinedTypes()", "data", "[]"),
-    # (end of host types)
 
     # --- fractions, division and substitution ---
     # Exact division of sums, and quotients that stay fractions.
@@ -143,7 +142,6 @@ rows = [
     ("", "replaceSymbols(x*y + 1, [x, y], [2, 3])", "value", "7"),
     ("", "replaceSymbols(x, [x, y], [2])", "value", "null"),
     ("", "containSymbol(x + y, y)", "value", "true"),
-    # (end of fractions, division and substitution)
 
     # --- number theory and transforms ---
     ("", "FFT1([1, 2, 3, 4])", "data", '[{"re": 10, "im": 0}, {"re": -2, "im": 2}, {"re": -2, "im": 0}, {"re": -2, "im": -2}]'),
@@ -160,7 +158,6 @@ rows = [
     ("", "PoissonCoefficient(2.5, 3)", "number", num(mpmath.exp(-2.5) * mpmath.mpf(2.5) ** 3 / 6), SPECIAL),
     ("", "StirlingNumber2ndKind(10, 4)", "value", "34105"),
     ("", "BellNumber(10)", "value", "115975"),
-    # (end of number theory and transforms)
 
     # --- images ---
     # Pixels are words: blue in the low byte, then green, red and alpha.
@@ -181,7 +178,6 @@ rows = [
     ("", "Image2Matrix(ImageMedian(Matrix2Image([1, 9, 2; 8, 3, 7; 4, 6, 5]), [3, 3]))", "data", "[5]"),
     ("", "ImageMsePsnr(Matrix2Image([0]), Matrix2Image([255]))", "data", "[21675, 4.7712125471966242]"),
     ("", "ImageMsePsnr(Matrix2Image([5]), Matrix2Image([5]))", "data", "[0, null]"),
-    # (end of images)
 
     # --- filter design and running filters ---
     ("", 'makeWindow("bartlett", 5)', "data", "[0, 0.5, 1, 0.5, 0]"),
@@ -200,9 +196,8 @@ rows = [
           - (mpmath.mpf("0.00266") * 4 - mpmath.mpf("0.5941") * 2 + mpmath.mpf("0.4278"))
           - (mpmath.mpf("0.51244") + mpmath.mpf("11.012")) * mpmath.mpf("0.05") ** 2) / mpmath.mpf("0.05") + 1),
      "1e-14"),
-    # (end of filter design and running filters)
 
-    # --- distributions, random numbers, statistics and numeric calculus ---
+    # --- distributions, random numbers and statistics ---
     # Descriptive statistics.
     ("", "average([1, 2, 3, 4])", "value", "2.5"),
     ("", "median([7, 1, 4, 2])", "value", "3"),
@@ -226,7 +221,6 @@ rows = [
     ("", "uRandVec(0, 1, 3)", "type", "vector"),
     ("", "normRandNum(0, 0)", "value", "0"),
     ("", "expRandVec(1, 0)", "value", "null"),
-    # (end of distributions, random numbers, statistics and numeric calculus)
 
     # --- decompositions and linear equations ---
     ("", "decLUL([4, 3; 6, 3])", "data", "[1, 0, 1.5, 1]"),
@@ -247,7 +241,6 @@ rows = [
     ("", 'linsolve(equation(x, "<", 3), x)', "value", "null"),
     ("", 'linsolvesys([equation(2*x + 3, "==", y + 7); equation(x - y, "==", 1)], [x; y])', "data", "[3, 2]"),
     ("", 'linSysMatrix([equation(2*x + 3, "==", y + 7); equation(x - y, "==", 1)], [x; y])', "data", "[2, -1, 1, -1]"),
-    # (end of decompositions and linear equations)
 
     # --- finance, coordinates, geometry, conversions and chemistry ---
     ("", 'Decimal2Binary(10)', "value", '"1010"'),
@@ -260,7 +253,6 @@ rows = [
     ("", "areColinear(0, 0, 1, 1, 2, 2)", "value", "true"),
     ("", "dotprod([1, 2, 3], [4, 5, 6])", "value", "32"),
     ("", "chemSolver([3, 0, -1, 0; 8, 0, 0, -2; 0, 2, -2, -1])", "data", "[1, 5, 3, 4]"),
-    # (end of finance, coordinates, geometry, conversions and chemistry)
 
 ]
 
