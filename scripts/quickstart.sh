@@ -8,5 +8,6 @@ cmake -S . -B build-release -G Ninja -DCMAKE_BUILD_TYPE=Release -DVHMATHLIB_BUIL
 cmake --build build-release
 build-release/examples/catalogue_demo
 if [ -x build-release/tools/vhcalc/vhcalc ]; then
-  build-release/tools/vhcalc/vhcalc 'sqrt(-4)' '[1, 0; 0, 1] / [1, 2; 3, 4]' 'x + 2*x + y' 'gamma(5.5)'
+  build-release/tools/vhcalc/vhcalc 'sqrt(-4)' '[1, 0; 0, 1] / [1, 2; 3, 4]' 'x + 2*x + y' 'gamma(5.5)' \
+    '(x^2 - 1)/(x - 1)' 'nthPrime(1000)' 'FFT1([1, 2, 3, 4])' 'normaldist(1.96, 0, 1)' 'decLU([4, 3; 6, 3])'
 fi

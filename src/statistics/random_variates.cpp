@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "statistics/distribution_kernels.h"
 #include "statistics/random_stream.h"
 
 namespace VarnholtMath {
@@ -214,19 +215,8 @@ double geometricVariate(double p)
 
 double logarithmicVariate(double p)
 {
-    const double u = nextUniform();
-    double term = -p / std::log1p(-p);
-    double sum = term;
-    double k = 1.0;
-    while (sum < u && k < kMaxTerms) {
-        term *= p * k / (k + 1.0);
-        k += 1.0;
-        const double next = sum + term;
-        if (next == sum)
-            break;
-        sum = next;
-    }
-    return k;
+    // Inversion: the first k whose cumulative reaches a uniform number.
+    return logarithmicInverse(nextUniform(), p);
 }
 
 } // namespace statistics

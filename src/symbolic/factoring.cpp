@@ -7,6 +7,7 @@
 
 #include "value/value.h"
 
+#include "functions/number_theory_kernels.h"
 #include "symbolic/atom_internal.h"
 
 namespace VarnholtMath {
@@ -32,15 +33,6 @@ namespace {
 // numeric factor, whose cost would grow with them for little gain.
 const std::size_t kMaxNumericTerms = 100;
 
-std::uint32_t gcd(std::uint32_t a, std::uint32_t b)
-{
-    while (b != 0) {
-        const std::uint32_t r = a % b;
-        a = b;
-        b = r;
-    }
-    return a;
-}
 
 // The greatest common divisor of the tenfold coefficients, cut to whole
 // numbers; false when a coefficient is no real number or its tenfold leaves
@@ -55,7 +47,7 @@ bool tenthsDivisor(const std::vector<vhValue>& terms, std::uint32_t& g)
         const double tenfold = std::fabs(std::trunc(c->toDouble() * 10.0));
         if (!(tenfold <= 2147483647.0))
             return false;
-        g = gcd(g, static_cast<std::uint32_t>(tenfold));
+        g = numbertheory::gcd(g, static_cast<std::uint32_t>(tenfold));
     }
     return true;
 }
