@@ -46,15 +46,14 @@ bool planeIntersection(const Vec3& n1, double h1, const Vec3& n2, double h2, Vec
     return std::isfinite(point.x) && std::isfinite(point.y) && std::isfinite(point.z);
 }
 
-namespace {
-
-// The normal of a triangle's plane, false for a triangle without area.
 bool triangleNormal(const Vec3 t[3], Vec3& n)
 {
     const Vec3 a = t[1] - t[0], b = t[2] - t[0];
     n = cross(a, b);
     return length(n) > kRelativeTolerance * length(a) * length(b);
 }
+
+namespace {
 
 // The part of triangle t on the plane n.x = h: false when the triangle lies
 // wholly on one side. `lo` and `hi` are the two ends (equal when it touches).
@@ -500,9 +499,8 @@ vhValue vhMath::planeVector_f(const vhValue& xA, const vhValue& yA, const vhValu
     Vec3 p[3];
     if (!points({&xA, &yA, &zA, &xB, &yB, &zB, &xC, &yC, &zC}, p))
         return vhValue();
-    const Vec3 a = p[1] - p[0], b = p[2] - p[0];
-    const Vec3 n = cross(a, b);
-    if (!(length(n) > kRelativeTolerance * length(a) * length(b)))
+    Vec3 n;
+    if (!geometry::triangleNormal(p, n))
         return vhValue();
     return numbers({n.x, n.y, n.z, -dot(n, p[0])}, true);
 }
@@ -516,10 +514,9 @@ vhValue vhMath::intersecLinePlane_f(const vhValue& xA, const vhValue& yA, const 
     if (!points({&xA, &yA, &zA, &xB, &yB, &zB, &xC, &yC, &zC, &xD, &yD, &zD, &xE, &yE, &zE}, p))
         return vhValue();
     const Vec3 plane[3] = {p[2], p[3], p[4]};
-    const Vec3 a = plane[1] - plane[0], b = plane[2] - plane[0];
-    const Vec3 n = cross(a, b);
+    Vec3 n;
     const Vec3 dir = p[1] - p[0];
-    if (!(length(n) > kRelativeTolerance * length(a) * length(b)) || length(dir) == 0.0)
+    if (!geometry::triangleNormal(plane, n) || length(dir) == 0.0)
         return vhValue();
     const double along = dot(n, dir);
     if (nearZero(along, length(n) * length(dir)))
@@ -537,10 +534,8 @@ vhValue vhMath::intersecPlanes_f(const vhValue& xA, const vhValue& yA, const vhV
     Vec3 p[6];
     if (!points({&xA, &yA, &zA, &xB, &yB, &zB, &xC, &yC, &zC, &xD, &yD, &zD, &xE, &yE, &zE, &xF, &yF, &zF}, p))
         return vhValue();
-    const Vec3 a1 = p[1] - p[0], b1 = p[2] - p[0], a2 = p[4] - p[3], b2 = p[5] - p[3];
-    const Vec3 n1 = cross(a1, b1), n2 = cross(a2, b2);
-    if (!(length(n1) > kRelativeTolerance * length(a1) * length(b1)) ||
-        !(length(n2) > kRelativeTolerance * length(a2) * length(b2)))
+    Vec3 n1, n2;
+    if (!geometry::triangleNormal(p, n1) || !geometry::triangleNormal(p + 3, n2))
         return vhValue();
     Vec3 point, direction;
     if (!geometry::planeIntersection(n1, dot(n1, p[0]), n2, dot(n2, p[3]), point, direction))

@@ -38,6 +38,10 @@ bool triangleIntersection(const Vec3 t1[3], const Vec3 t2[3], Vec3& from, Vec3& 
 // false for parallel planes.
 bool planeIntersection(const Vec3& n1, double h1, const Vec3& n2, double h2, Vec3& point, Vec3& direction);
 
+// The normal of the plane through the three points t, false when they span no
+// plane (relative to the lengths of the two edges from t[0]).
+bool triangleNormal(const Vec3 t[3], Vec3& n);
+
 } // namespace geometry
 
 // The arc points of the graphs with angles in radians: `circle` is

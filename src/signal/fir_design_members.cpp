@@ -83,6 +83,32 @@ bool bandEdges(const vhValue& start, const vhValue& end, const vhValue& rate, co
     return true;
 }
 
+// A design of one edge or of a band: the checked arguments, then the design.
+template <class Design>
+vhValue edgeDesign(const vhValue& cutoff, const vhValue& rate, const vhValue& order, const vhValue& window,
+                   Design design)
+{
+    double f = 0.0;
+    int n = 0;
+    int w = 0;
+    if (!singleEdge(cutoff, rate, order, window, f, n, w))
+        return vhValue();
+    return takeCoefficients(design(f, n, w));
+}
+
+template <class Design>
+vhValue bandDesign(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
+                   const vhValue& window, Design design)
+{
+    double f1 = 0.0;
+    double f2 = 0.0;
+    int n = 0;
+    int w = 0;
+    if (!bandEdges(start, end, rate, order, window, f1, f2, n, w))
+        return vhValue();
+    return takeCoefficients(design(f1, f2, n, w));
+}
+
 } // namespace
 
 vhValue vhMath::makeWindow_f(const vhValue& name, const vhValue& size)
@@ -102,59 +128,31 @@ vhValue vhMath::makeWindow_f(const vhValue& name, const vhValue& size)
 
 vhValue vhMath::FIRlowpass_f(const vhValue& cutoff, const vhValue& rate, const vhValue& order, const vhValue& window)
 {
-    double f = 0.0;
-    int n = 0;
-    int w = 0;
-    if (!singleEdge(cutoff, rate, order, window, f, n, w))
-        return vhValue();
-    return takeCoefficients(newFirLowpass(f, n, w));
+    return edgeDesign(cutoff, rate, order, window, newFirLowpass);
 }
 
 vhValue vhMath::FIRhighpass_f(const vhValue& cutoff, const vhValue& rate, const vhValue& order,
                               const vhValue& window)
 {
-    double f = 0.0;
-    int n = 0;
-    int w = 0;
-    if (!singleEdge(cutoff, rate, order, window, f, n, w))
-        return vhValue();
-    return takeCoefficients(newFirHighpass(f, n, w));
+    return edgeDesign(cutoff, rate, order, window, newFirHighpass);
 }
 
 vhValue vhMath::FIRbandpass_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
                               const vhValue& window)
 {
-    double f1 = 0.0;
-    double f2 = 0.0;
-    int n = 0;
-    int w = 0;
-    if (!bandEdges(start, end, rate, order, window, f1, f2, n, w))
-        return vhValue();
-    return takeCoefficients(newFirBandpass(f1, f2, n, w));
+    return bandDesign(start, end, rate, order, window, newFirBandpass);
 }
 
 vhValue vhMath::FIRbandstop_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
                               const vhValue& window)
 {
-    double f1 = 0.0;
-    double f2 = 0.0;
-    int n = 0;
-    int w = 0;
-    if (!bandEdges(start, end, rate, order, window, f1, f2, n, w))
-        return vhValue();
-    return takeCoefficients(newFirBandstop(f1, f2, n, w));
+    return bandDesign(start, end, rate, order, window, newFirBandstop);
 }
 
 vhValue vhMath::FIRhilbert_f(const vhValue& start, const vhValue& end, const vhValue& rate, const vhValue& order,
                              const vhValue& window)
 {
-    double f1 = 0.0;
-    double f2 = 0.0;
-    int n = 0;
-    int w = 0;
-    if (!bandEdges(start, end, rate, order, window, f1, f2, n, w))
-        return vhValue();
-    return takeCoefficients(newFirHilbert(f1, f2, n, w));
+    return bandDesign(start, end, rate, order, window, newFirHilbert);
 }
 
 vhValue vhMath::FIRFILlowpass_f(const vhValue& signal, const vhValue& cutoff, const vhValue& rate,
